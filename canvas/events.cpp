@@ -1,0 +1,11 @@
+#include "canvas/events.h"
+
+namespace corvanta {
+
+CanvasEvents &canvasEvents()
+{
+    static CanvasEvents events;
+    return events;
+}
+
+} // namespace corvanta

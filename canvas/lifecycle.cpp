@@ -1,0 +1,49 @@
+#include "canvas/lifecycle.h"
+
+#include "canvas/gestures.h"
+#include "canvas/running.h"
+#include "canvas/selection.h"
+
+#include <algorithm>
+
+namespace corvanta {
+
+namespace {
+
+bool hasMembers()
+{
+    const auto &objects = page().objects;
+    return std::any_of(objects.begin(), objects.end(), [](const ObjectRecord &o) { return o.selslot > 0; });
+}
+
+} // namespace
+
+void objectEntersCanvas(std::int16_t index)
+{
+    if (!hasObject(page(), index))
+        return;
+    const auto i = static_cast<std::size_t>(index);
+    if (kindOf(page().objects[i].kind) == Kind::Ticker)
+        startTicker(page().ctlindex[i]);
+}
+
+void objectLeavesCanvas(std::int16_t index)
+{
+    cancelGesture();
+    if (inMultiSelection(index)) {
+        removeFromMultiSelection(index);
+        if (!hasMembers())
+            editing().multcount = 0;
+    }
+    stopRunning(index);
+}
+
+void resetCanvas()
+{
+    cancelGesture();
+    clearMultiSelection();
+    selectObject(noObject);
+    clearRunning();
+}
+
+} // namespace corvanta

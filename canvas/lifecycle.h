@@ -1,0 +1,15 @@
+#pragma once
+
+#include <cstdint>
+
+// What happens on the canvas when objects of the process-wide page come and go.
+namespace corvanta {
+
+// A new object: a ticker begins to scroll.
+void objectEntersCanvas(std::int16_t index);
+// Before an object is removed: it leaves the gesture, the multi-selection and the running list.
+void objectLeavesCanvas(std::int16_t index);
+// The page is empty: no selection, no gesture, nothing runs.
+void resetCanvas();
+
+} // namespace corvanta

@@ -1,0 +1,102 @@
+#include "canvas/selection.h"
+
+#include <vector>
+
+namespace corvanta {
+
+namespace {
+
+ObjectRecord &record(std::int16_t index) { return page().objects[static_cast<std::size_t>(index)]; }
+
+std::int16_t lowestFreeSlot()
+{
+    std::vector<bool> taken(page().objects.size() + 1);
+    for (const ObjectRecord &o : page().objects)
+        if (o.selslot > 0 && static_cast<std::size_t>(o.selslot) < taken.size())
+            taken[static_cast<std::size_t>(o.selslot)] = true;
+    std::int16_t slot = 1;
+    while (taken[static_cast<std::size_t>(slot)])
+        ++slot;
+    return slot;
+}
+
+} // namespace
+
+bool hasCurrentObject() { return hasObject(page(), editing().curobj); }
+
+void selectObject(std::int16_t index)
+{
+    if (hasObject(page(), index))
+        tell(canvasEvents().bringToFront, index);
+    hideTrackers();
+    setCurrentObject(index);
+}
+
+void setCurrentObject(std::int16_t index)
+{
+    editing().curobj = hasObject(page(), index) ? index : noObject;
+    tell(canvasEvents().currentChanged);
+}
+
+void showTrackers()
+{
+    if (hasCurrentObject())
+        tell(canvasEvents().showTrackers, rectOf(record(editing().curobj)));
+}
+
+void hideTrackers() { tell(canvasEvents().hideTrackers); }
+
+bool inMultiSelection(std::int16_t index) { return hasObject(page(), index) && record(index).selslot > 0; }
+
+void addToMultiSelection(std::int16_t index)
+{
+    if (!hasObject(page(), index) || inMultiSelection(index))
+        return;
+    const std::int16_t slot = lowestFreeSlot();
+    record(index).selslot = slot;
+    editing().multcount = slot;
+    placeFrameMarkers(index);
+}
+
+void removeFromMultiSelection(std::int16_t index)
+{
+    if (!inMultiSelection(index))
+        return;
+    hideFrameMarkers(index);
+    record(index).selslot = 0;
+}
+
+void clearMultiSelection()
+{
+    for (std::int16_t i = 0; i < objectCount(page()); ++i)
+        removeFromMultiSelection(i);
+    editing().multcount = 0;
+}
+
+void placeFrameMarkers(std::int16_t index)
+{
+    if (inMultiSelection(index))
+        tell(canvasEvents().placeFrameMarkers, record(index).selslot, rectOf(record(index)));
+}
+
+void hideFrameMarkers(std::int16_t index)
+{
+    if (inMultiSelection(index))
+        tell(canvasEvents().hideFrameMarkers, record(index).selslot);
+}
+
+void toggleMultiSelection(std::int16_t index)
+{
+    if (!hasObject(page(), index))
+        return;
+    if (inMultiSelection(index)) {
+        editing().multcount = record(index).selslot;
+        removeFromMultiSelection(index);
+        return;
+    }
+    if (editing().multcount == 0 && hasCurrentObject() && editing().curobj != index)
+        addToMultiSelection(editing().curobj);
+    addToMultiSelection(index);
+}
+
+} // namespace corvanta

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "canvas/events.h"
+
+// The current object (curobj) and the multi-selection (selslot of the records, multcount) of the process-wide
+// page. Indices out of range are ignored where nothing else is said.
+namespace corvanta {
+
+bool hasCurrentObject();
+
+// Brings the object's visual to the front, hides the handles and makes the object current; noObject clears
+// the current object.
+void selectObject(std::int16_t index);
+void setCurrentObject(std::int16_t index);
+
+// The handles round the current object; nothing without one.
+void showTrackers();
+void hideTrackers();
+
+bool inMultiSelection(std::int16_t index);
+// Gives the object the lowest free slot, which multcount takes too. A member keeps its slot.
+void addToMultiSelection(std::int16_t index);
+// Frees the object's slot; multcount stays.
+void removeFromMultiSelection(std::int16_t index);
+void clearMultiSelection();
+
+// The markers of a member round its rectangle.
+void placeFrameMarkers(std::int16_t index);
+void hideFrameMarkers(std::int16_t index);
+
+// A Ctrl-click on an object: the first one takes the current object in as well, one on a member takes it out.
+void toggleMultiSelection(std::int16_t index);
+
+} // namespace corvanta

@@ -1,0 +1,30 @@
+#include "canvas/ui/drop.h"
+
+#include "canvas/selection.h"
+#include "document/events.h"
+#include "document/objects.h"
+
+#include <algorithm>
+
+namespace corvanta {
+
+Rect droppedRect(const Rect &object, Point at, Size pageSize)
+{
+    return {std::max(0, std::min(at.x, pageSize.width - object.width)),
+            std::max(0, std::min(at.y, pageSize.height - object.height)), object.width, object.height};
+}
+
+void dropObject(Kind kind, Point at)
+{
+    const std::int16_t index = addObject(kind);
+    if (index == noObject)
+        return;
+    clearMultiSelection();
+    selectObject(index);
+    const Rect place = droppedRect(rectOf(page().objects[static_cast<std::size_t>(index)]), at, sizeOf(page()));
+    setObjectGeometry(index, toPixels(place.top), toPixels(place.left), toPixels(place.height), toPixels(place.width));
+    showTrackers();
+    pageEdited();
+}
+
+} // namespace corvanta

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "canvas/geometry.h"
+
+namespace corvanta {
+
+// The object's rectangle with its top-left corner at the point, pushed back from the page's right and bottom
+// edge; the corner of a larger object stays on the page.
+Rect droppedRect(const Rect &object, Point at, Size pageSize);
+
+// Adds a new object with its defaults at a point of the page and selects it: a completed edit. A refused
+// object (a fourth ticker) changes nothing.
+void dropObject(Kind kind, Point at);
+
+} // namespace corvanta

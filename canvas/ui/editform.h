@@ -1,0 +1,75 @@
+#pragma once
+
+#include "canvas/ui/canvas_input.h"
+#include "canvas/ui/page_area.h"
+#include "canvas/ui/panels.h"
+#include "canvas/ui/trackers.h"
+#include "canvas/ui/visuals.h"
+
+#include <QList>
+#include <QTimer>
+#include <QWidget>
+
+class QScrollArea;
+
+namespace corvanta {
+
+// The canvas window: the page at its pixel size between the mock toolbar and the status panel. While it lives
+// it listens to the process-wide document and to the rules of the canvas.
+class Editform : public QWidget {
+public:
+    Editform();
+    ~Editform() override;
+
+    EditformCommands commands;
+
+    // Applies the page-wide fields: background, page size and, in the normal window state, the window's size.
+    // A page that does not fit on the screen scrolls. A page without a size takes that of the window.
+    void applyPageLayout();
+    void showMockToolbar(bool shown);
+    void showStatusPanel(bool shown);
+
+    PageArea &pageArea() const { return *area; }
+    // Paints the page and its visuals again, as after loading media.
+    void repaintPage();
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
+
+private:
+    bool isNormal() const; // neither minimised nor maximised
+    int frameHeight() const;
+    QSize innerSize() const;
+    QSize screenRoom() const; // for the page, when the window fills the screen
+    void takeMissingSize();
+    void takeSizeFromWindow();
+    void resizeToPage();
+    bool isLateAnswer(const QResizeEvent &event) const;
+    void arrange();
+    void listenToDocument();
+    void listenToCanvas();
+    void listenToRunning();
+    void createVisual(std::int16_t index);
+    void objectChanged(std::int16_t index);
+    void drop(QPoint at, const DragPayload &payload);
+    void showStatus(std::int16_t pointed);
+
+    MockToolbar *toolbar;
+    QScrollArea *scroller;
+    PageArea *area;
+    StatusPanel *statusPanel;
+    Trackers trackers;
+    Visuals visuals;
+    CanvasInput input;
+    QTimer objtimer;
+    QTimer settling;         // runs while the window system may still answer to a size of ours
+    QList<QSize> superseded; // sizes that this one has taken the place of
+    bool inLayout = false;   // resizes are of the program's making
+    bool fresh = true;       // the next resize is the first one that follows a load
+};
+
+} // namespace corvanta

@@ -1,0 +1,151 @@
+#include "canvas/lifecycle.h"
+#include "canvas/player.h"
+#include "canvas/running.h"
+#include "canvas/selection.h"
+#include "canvas/ui/drop.h"
+#include "canvas/ui/editform.h"
+#include "document/events.h"
+#include "platform/qt/text.h"
+
+// What the canvas window hears of the document, of the canvas's rules and of what runs on the page.
+namespace corvanta {
+
+namespace {
+
+int inTwips(int pixels) { return pixels * running().twipsPerPixel; }
+
+const Element &tickerElement(std::int16_t element) { return page().tkr.at(static_cast<std::size_t>(element)); }
+
+void changeLive(Visual *visual, const auto &change)
+{
+    if (!visual)
+        return;
+    LiveState live = visual->live();
+    change(live);
+    visual->setLive(live);
+}
+
+} // namespace
+
+Editform::~Editform()
+{
+    DocumentEvents &document = documentEvents();
+    document.objectCreated = document.objectRemoving = document.objectChanged = {};
+    document.currentCleared = document.pageLayout = document.pageChanged = document.pageReset = {};
+    canvasEvents() = {};
+    runningEvents() = {};
+    playerEvents() = {};
+    clearRunning();
+}
+
+void Editform::listenToDocument()
+{
+    DocumentEvents &document = documentEvents();
+    document.objectCreated = [this](std::int16_t index) { createVisual(index); };
+    document.objectRemoving = [this](std::int16_t index) {
+        objectLeavesCanvas(index);
+        visuals.remove(index);
+    };
+    document.objectChanged = [this](std::int16_t index) { objectChanged(index); };
+    document.currentCleared = [] {
+        hideTrackers();
+        tell(canvasEvents().currentChanged);
+    };
+    document.pageLayout = [this] { applyPageLayout(); };
+    document.pageChanged = [this] { repaintPage(); };
+    document.pageReset = [this] {
+        resetCanvas();
+        trackers.hideAll();
+        area->update();
+    };
+}
+
+void Editform::listenToCanvas()
+{
+    CanvasEvents &events = canvasEvents();
+    events.bringToFront = [this](std::int16_t index) { visuals.raise(index); };
+    events.currentChanged = [this] {
+        showStatus(noObject);
+        tell(commands.currentChanged);
+    };
+    events.showTrackers = [this](const Rect &r) { trackers.showHandles(r); };
+    events.hideTrackers = [this] { trackers.hideHandles(); };
+    events.placeFrameMarkers = [this](std::int16_t slot, const Rect &r) { trackers.placeMarkers(slot, r); };
+    events.hideFrameMarkers = [this](std::int16_t slot) { trackers.hideMarkers(slot); };
+    events.drawOutline = [this](const Rect &r) { trackers.drawOutline(r); };
+    events.hideOutline = [this] { trackers.hideOutline(); };
+    events.showGroupFrame = [this](const Rect &r) { trackers.showGroupFrame(r); };
+    events.hideGroupFrame = [this] { trackers.hideGroupFrame(); };
+    // repaintUnder stays empty: where a line has left, the window system of the widgets paints by itself.
+    events.emptyVisual = [this](std::int16_t index) {
+        changeLive(visuals.of(index), [](LiveState &live) { live.emptied = true; });
+    };
+    events.restoreVisual = [this](std::int16_t index) {
+        changeLive(visuals.of(index), [](LiveState &live) { live.emptied = false; });
+    };
+}
+
+void Editform::listenToRunning()
+{
+    objtimer.setObjectName(QStringLiteral("objtimer"));
+    objtimer.setInterval(objtimerInterval);
+    objtimer.setTimerType(Qt::PreciseTimer);
+    connect(&objtimer, &QTimer::timeout, this, [] { timerStep(); });
+    RunningEvents &events = runningEvents();
+    events.enableTimer = [this](bool on) {
+        if (on != objtimer.isActive())
+            on ? objtimer.start() : objtimer.stop();
+    };
+    events.tickerTextWidth = [](std::int16_t element) { return inTwips(tickerTextWidth(tickerElement(element))); };
+    events.tickerInnerWidth = [](std::int16_t element) { return inTwips(tickerInnerWidth(tickerElement(element))); };
+    events.tickerMoved = [this](std::int16_t element, int left) {
+        changeLive(visuals.of(Kind::Ticker, element),
+                   [left](LiveState &live) { live.textOffset = left / running().twipsPerPixel; });
+    };
+    events.showFrame = [this](std::int16_t element, int frame) {
+        changeLive(visuals.of(Kind::Animation, element), [frame](LiveState &live) { live.frame = frame; });
+    };
+    playerEvents().previewBegins = [this](std::int16_t element) {
+        changeLive(visuals.of(Kind::Animation, element), [](LiveState &live) { live.bordered = false; });
+    };
+    playerEvents().previewEnds = [this](std::int16_t element) {
+        changeLive(visuals.of(Kind::Animation, element), [](LiveState &live) { live = {}; });
+    };
+}
+
+void Editform::createVisual(std::int16_t index)
+{
+    if (Visual *visual = visuals.create(index))
+        input.watch(*visual);
+    objectEntersCanvas(index);
+}
+
+void Editform::objectChanged(std::int16_t index)
+{
+    visuals.refresh(index);
+    placeFrameMarkers(index);
+    if (index == editing().curobj) {
+        showStatus(noObject);
+        if (trackers.handlesShown())
+            showTrackers();
+    }
+}
+
+void Editform::drop(QPoint at, const DragPayload &payload)
+{
+    const auto kind = kindOf(payload.payload.toShort());
+    if (payload.tag == "obj" && kind)
+        dropObject(*kind, {at.x(), at.y()});
+    else if (payload.tag == "fld")
+        tell(commands.fieldDropped, at, payload.payload);
+}
+
+// The status text of the object under the pointer, else of the current object.
+void Editform::showStatus(std::int16_t pointed)
+{
+    const std::int16_t index = pointed == noObject ? editing().curobj : pointed;
+    statusPanel->setStatus(hasObject(page(), index) ? toQString(page().objects[static_cast<std::size_t>(index)].sptext)
+                                                    : QString());
+}
+
+} // namespace corvanta

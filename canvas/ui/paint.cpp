@@ -1,0 +1,95 @@
+#include "canvas/ui/paint.h"
+
+#include "canvas/ui/paint_kinds.h"
+#include "document/media.h"
+#include "platform/qt/colours.h"
+#include "platform/qt/fonts.h"
+#include "platform/qt/qt_pictures.h"
+#include "platform/qt/text.h"
+
+#include <QPainter>
+
+namespace corvanta {
+
+QFont fontOf(const FontBlock &font)
+{
+    return toQFont(font.FontName, font.FontSize, font.FontBold, font.FontItalic, font.FontStrikethru,
+                   font.FontUnderline);
+}
+
+void setTextStyle(QPainter &painter, const FontBlock &font)
+{
+    painter.setFont(fontOf(font));
+    painter.setPen(toQColor(font.ForeColor));
+}
+
+QString shownText(const std::string &bytes)
+{
+    return toQString(bytes)
+        .replace(QLatin1String("\r\n"), QLatin1String("\n"))
+        .replace(QLatin1Char('\r'), QLatin1Char('\n'))
+        .replace(QLatin1Char('\t'), QLatin1String("    "));
+}
+
+int alignmentFlag(std::int16_t alignment)
+{
+    if (alignment == 1)
+        return Qt::AlignRight;
+    return alignment == 2 ? Qt::AlignHCenter : Qt::AlignLeft;
+}
+
+void paintObject(QPainter &painter, const Page &p, std::int16_t index, const QRect &rect, const LiveState &live)
+{
+    if (!hasObject(p, index) || rect.isEmpty())
+        return;
+    const ObjectRecord &o = p.objects[static_cast<std::size_t>(index)];
+    const auto kind = kindOf(o.kind);
+    if (!kind)
+        return;
+    const auto n = static_cast<std::size_t>(p.ctlindex[static_cast<std::size_t>(index)]);
+    painter.save();
+    painter.setClipRect(rect, Qt::IntersectClip);
+    switch (*kind) {
+    case Kind::Button: paintButton(painter, p.but.at(n), rect); break;
+    case Kind::HotSpot: paintHotSpot(painter, o, rect); break;
+    case Kind::ListBox:
+        paintListBox(painter, p.lbx.at(n), live.emptied ? std::vector<ListBoxEntry>{} : p.lbxextras.at(n), o.alignment,
+                     rect);
+        break;
+    case Kind::Label: paintLabel(painter, p.lbl.at(n), o.alignment, rect); break;
+    case Kind::TextBox: paintTextField(painter, p.tbx.at(n), o, live.emptied, rect); break;
+    case Kind::Image: paintImage(painter, p.imgpictures.at(n).picture, rect); break;
+    case Kind::Ticker: paintTicker(painter, p.tkr.at(n), live.textOffset, rect); break;
+    case Kind::Animation: paintAnimation(painter, p, static_cast<std::int16_t>(n), live, rect); break;
+    case Kind::Grid: paintGrid(painter, p.grd.at(n), p.gridcolumns, rect); break;
+    case Kind::ImageDb: paintImageDb(painter, rect); break;
+    case Kind::ComboBox: paintComboBox(painter, p.cbx.at(n), o.alignment, rect); break;
+    case Kind::File: paintTextField(painter, p.fbx.at(n), o, live.emptied, rect); break;
+    case Kind::Url: paintLabel(painter, p.url.at(n), o.alignment, rect); break;
+    }
+    painter.restore();
+}
+
+void paintPageBackground(QPainter &painter, const Page &p, const QRect &rect)
+{
+    painter.fillRect(rect, toQColor(p.bkgcol));
+    if (const QImage *image = imageOf(p.background))
+        painter.drawImage(rect.topLeft(), *image, rect);
+}
+
+void paintPage(QPainter &painter, Page &p)
+{
+    paintPageBackground(painter, p, QRect(0, 0, p.bkgwd, p.bkght));
+    for (const bool onPage : {true, false}) // what is drawn on the page lies below the controls
+        for (std::int16_t i = 0; i < objectCount(p); ++i) {
+            const ObjectRecord &o = p.objects[static_cast<std::size_t>(i)];
+            const auto kind = kindOf(o.kind);
+            if (!kind || kindRow(*kind).drawnOnPage != onPage)
+                continue;
+            if (*kind == Kind::Image)
+                imagePicture(p, i);
+            paintObject(painter, p, i, QRect(o.pleft, o.ptop, o.pwidth, o.pheight));
+        }
+}
+
+} // namespace corvanta

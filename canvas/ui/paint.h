@@ -1,0 +1,40 @@
+#pragma once
+
+#include "document/page.h"
+
+#include <QRect>
+
+class QPainter;
+
+// The pictures of objects: an object's record, element and side tables as pixels. Nothing here knows a
+// widget, so that a page can be painted onto any device.
+namespace corvanta {
+
+// What an object shows for a moment, besides its stored state.
+struct LiveState {
+    int textOffset = 0;   // of a ticker's text, pixels from its strip's left edge
+    int frame = 0;        // of an animation: number in the page's frame table; 0 for its first frame
+    bool bordered = true; // of an animation: false while it is played
+    bool emptied = false; // a list or text field that is being dragged
+};
+
+// Paints an object into a rectangle of its size. Images paint the picture that the page has loaded for them.
+void paintObject(QPainter &painter, const Page &p, std::int16_t index, const QRect &rect, const LiveState &live = {});
+
+// The inner size of a canvas window for a page without a size of its own.
+inline constexpr int newPageWidth = 600, newPageHeight = 400;
+
+// The background colour and picture of the page.
+void paintPageBackground(QPainter &painter, const Page &p, const QRect &rect);
+
+// Paints a whole page with all its objects in table order; loads the pictures of its Images.
+void paintPage(QPainter &painter, Page &p);
+
+// Pixels that a ticker's text takes, and those that its strip shows.
+int tickerTextWidth(const Element &ticker);
+int tickerInnerWidth(const Element &ticker);
+
+// The frame that an animation shows; nullptr when there is none.
+const Frame *shownFrame(const Page &p, std::int16_t element, const LiveState &live);
+
+} // namespace corvanta

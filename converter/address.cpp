@@ -1,0 +1,149 @@
+#include "converter/address.h"
+
+#include "converter/text.h"
+#include "platform/text.h"
+
+#include <algorithm>
+#include <cctype>
+
+namespace corvanta {
+
+namespace {
+
+constexpr std::string_view inName = "-._~@", inPath = "-._~@!$&'()*+,;=:/?";
+
+bool isLetterOrDigit(char c)
+{
+    return static_cast<unsigned char>(c) < 0x80 && std::isalnum(static_cast<unsigned char>(c));
+}
+bool isHex(char c) { return static_cast<unsigned char>(c) < 0x80 && std::isxdigit(static_cast<unsigned char>(c)); }
+
+std::string percentEncoded(std::string_view utf8, std::string_view kept)
+{
+    constexpr char digits[] = "0123456789ABCDEF";
+    std::string address;
+    for (const char c : utf8) {
+        if (isLetterOrDigit(c) || kept.find(c) != std::string_view::npos) {
+            address += c;
+            continue;
+        }
+        address += '%';
+        address += digits[static_cast<unsigned char>(c) >> 4];
+        address += digits[static_cast<unsigned char>(c) & 15];
+    }
+    return address;
+}
+
+// Encodes what is not yet encoded.
+std::string encodedAddress(std::string_view utf8)
+{
+    std::string address;
+    bool fragment = false;
+    for (std::size_t i = 0; i < utf8.size(); ++i) {
+        const bool escape = utf8[i] == '%' && i + 2 < utf8.size() && isHex(utf8[i + 1]) && isHex(utf8[i + 2]);
+        const bool mark = utf8[i] == '#' && !fragment;
+        fragment = fragment || mark;
+        address += escape || mark ? std::string(1, utf8[i]) : percentEncoded(utf8.substr(i, 1), inPath);
+    }
+    return address;
+}
+
+// Without the characters that a browser skips inside an address; "\" counts as "/" there.
+std::string plainAddress(std::string_view bytes)
+{
+    std::string text = cleanText(bytes);
+    std::erase_if(text, [](char c) { return c == '\n' || c == '\t'; });
+    std::replace(text.begin(), text.end(), '\\', '/');
+    return trimmed(text);
+}
+
+// The scheme in lower case; empty for a relative address.
+std::string schemeOf(std::string_view address)
+{
+    const std::size_t end = address.find_first_of(":/?#@");
+    if (end == std::string_view::npos || address[end] != ':')
+        return {};
+    std::string scheme(address.substr(0, end));
+    std::transform(scheme.begin(), scheme.end(), scheme.begin(),
+                   [](unsigned char c) { return static_cast<char>(c < 0x80 ? std::tolower(c) : c); });
+    return scheme.empty() ? ":" : scheme;
+}
+
+bool isPort(std::string_view text)
+{
+    return text.size() <= 5 && leadingNumber(text) <= 65535 &&
+           std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
+}
+
+// "host", "host:80" or a placeholder, of what follows "//".
+bool hasHost(std::string_view rest)
+{
+    const std::string_view authority = rest.substr(0, rest.find_first_of("/?#"));
+    if (std::count(authority.begin(), authority.end(), '@') > 1)
+        return true;
+    const std::string_view host = authority.substr(authority.find('@') + 1);
+    const std::string_view name = host.substr(0, host.find(':'));
+    const bool port = name.size() == host.size() || isPort(host.substr(name.size() + 1));
+    return port && !name.empty() && name.front() != '.' && std::all_of(name.begin(), name.end(), [](char c) {
+               return isLetterOrDigit(c) || c == '-' || c == '.' || static_cast<unsigned char>(c) >= 0x80;
+           });
+}
+
+bool isSafe(std::string_view address)
+{
+    const std::string scheme = schemeOf(address);
+    if (scheme == "mailto")
+        return address.size() > 7;
+    if (scheme.empty())
+        return !address.starts_with("//") || hasHost(address.substr(2));
+    const std::string_view rest = address.substr(scheme.size() + 1);
+    return (scheme == "http" || scheme == "https" || scheme == "ftp") && rest.starts_with("//") &&
+           hasHost(rest.substr(2));
+}
+
+// The part after the last directory, in UTF-8.
+std::string lastPart(std::string_view path)
+{
+    const std::string name = fileNamePart(trimmed(path));
+    return trimmed(cleanText(name.substr(name.rfind('/') + 1)));
+}
+
+bool isLocalDirectory(std::string_view path)
+{
+    return path.starts_with('/') || path.starts_with('\\') || !safeAddress(path);
+}
+
+} // namespace
+
+std::optional<std::string> safeAddress(std::string_view address)
+{
+    std::string text = plainAddress(address);
+    if (sameText(text.substr(0, 4), "www."))
+        text.insert(0, "http://");
+    const bool share = trimmed(address).starts_with('\\');
+    if (text.empty() || share || !isSafe(text))
+        return std::nullopt;
+    return encodedAddress(text);
+}
+
+std::string pageAddress(std::string_view pageName)
+{
+    std::string name = lastPart(pageName);
+    if (name.size() > 4 && sameText(name.substr(name.size() - 4), ".ods"))
+        name.resize(name.size() - 4);
+    return percentEncoded(name.empty() ? "TOP" : name, inName) + ".hts";
+}
+
+std::string mediaAddress(std::string_view fileName) { return percentEncoded(lastPart(fileName), inName); }
+
+std::string imageAddress(std::string_view path, std::string_view objectName)
+{
+    const std::string placeholder = percentEncoded(cleanText("@" + std::string(objectName) + "@"), inName);
+    const std::string directory = trimmed(path);
+    if (directory.empty() || isLocalDirectory(directory))
+        return placeholder;
+    const std::string address = *safeAddress(directory);
+    return address.ends_with('/') ? address + placeholder : address + "/" + placeholder;
+}
+
+} // namespace corvanta

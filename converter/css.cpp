@@ -1,0 +1,106 @@
+#include "converter/css.h"
+
+#include "converter/text.h"
+#include "platform/text.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+
+namespace corvanta {
+
+namespace {
+
+constexpr double pixelsPerPoint = 96.0 / 72, largestPoints = 1000;
+
+// By index of the desktop's colour table; where CSS has no such colour, the desktop's usual one.
+constexpr std::array<const char *, 25> systemColours{
+    "#c8c8c8",       "#008080",    "#000080", "#808080",    "Canvas",     "Canvas",  "CanvasText",
+    "CanvasText",    "CanvasText", "#ffffff", "ButtonFace", "ButtonFace", "#808080", "Highlight",
+    "HighlightText", "ButtonFace", "#808080", "GrayText",   "ButtonText", "#c0c0c0", "#ffffff",
+    "#404040",       "#dfdfdf",    "#000000", "#ffffe1"};
+
+bool names(std::string_view fontName, std::initializer_list<const char *> parts)
+{
+    const std::string name = lowerCase(fontName);
+    for (const char *part : parts)
+        if (name.find(part) != std::string::npos)
+            return true;
+    return false;
+}
+
+const char *fallbacks(std::string_view fontName)
+{
+    if (names(fontName, {"courier", "fixedsys", "terminal", "console", "mono", "typewriter"}))
+        return "\"Courier New\",Courier,monospace";
+    if (names(fontName,
+              {"times", "ms serif", "roman", "georgia", "garamond", "bookman", "century", "palatino", "book"}))
+        return "\"Times New Roman\",Times,serif";
+    return "Arial,Helvetica,sans-serif";
+}
+
+// The name in quotes with its comma; characters that could end a CSS string are left out.
+std::string family(const std::string &fontName)
+{
+    std::string name = cleanText(fontName);
+    std::erase_if(name, [](char c) {
+        const auto byte = static_cast<unsigned char>(c);
+        return byte < 0x80 && c != ' ' && c != '-' && c != '_' && std::isalnum(byte) == 0;
+    });
+    return isBlank(name) ? std::string() : "\"" + name + "\",";
+}
+
+std::string decoration(const FontBlock &font)
+{
+    if (font.FontUnderline && font.FontStrikethru)
+        return "underline line-through";
+    if (font.FontUnderline)
+        return "underline";
+    return font.FontStrikethru ? "line-through" : "none";
+}
+
+} // namespace
+
+std::string cssColour(std::int32_t colour)
+{
+    const auto value = static_cast<std::uint32_t>(colour);
+    if (value >> 24 == 0x80)
+        return (value & 0xFFFFFF) < systemColours.size() ? systemColours[value & 0xFFFFFF] : "#000000";
+    constexpr char digits[] = "0123456789abcdef";
+    std::string text = "#";
+    for (const int shift : {4, 0, 12, 8, 20, 16})
+        text += digits[(value >> shift) & 15];
+    return text;
+}
+
+double fontPixels(const FontBlock &font)
+{
+    const double points = font.FontSize > 0 && font.FontSize <= largestPoints ? font.FontSize : FontBlock{}.FontSize;
+    return points * pixelsPerPoint;
+}
+
+std::string cssFont(const FontBlock &font)
+{
+    std::string css = "color:" + cssColour(font.ForeColor) + ";font:";
+    css += font.FontItalic ? "italic " : "";
+    css += font.FontBold ? "bold " : "";
+    css += cssNumber(fontPixels(font)) + "px " + family(font.FontName) + fallbacks(font.FontName);
+    return css + ";text-decoration:" + decoration(font) + ";";
+}
+
+std::string cssNumber(double value)
+{
+    const double rounded = std::round(value * 100) / 100;
+    std::array<char, 64> digits{};
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), rounded, std::chars_format::fixed).ptr;
+    return {digits.data(), end};
+}
+
+std::string cssAlignment(std::int16_t alignment)
+{
+    if (alignment == 1)
+        return "text-align:right;";
+    return alignment == 2 ? "text-align:center;" : "text-align:left;";
+}
+
+} // namespace corvanta

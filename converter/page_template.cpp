@@ -1,0 +1,155 @@
+#include "converter/address.h"
+#include "converter/css.h"
+#include "converter/elements.h"
+#include "converter/ods2hts.h"
+#include "converter/parts.h"
+#include "converter/text.h"
+#include "platform/codepage.h"
+
+#include <algorithm>
+
+namespace corvanta {
+
+namespace {
+
+constexpr std::size_t titleLength = 70; // characters that search engines and tabs show
+
+// Rules by class come before those by id, which differ from object to object.
+constexpr const char *commonRules =
+    R"css(body{margin:0}
+.page>*,.page button{box-sizing:border-box;margin:0;padding:0;border:0;border-radius:0;overflow:hidden;background:none;color:inherit;font:inherit;text-align:inherit}
+.page>*{position:absolute}
+.page>.field,.page>.file,.page>.grid{border:2px inset #c0c0c0}
+.page>.field{padding:0 2px;resize:none}
+.page>.text{white-space:pre-wrap}
+.page>.button{display:flex;flex-flow:column wrap;gap:4px;align-items:center;align-content:center;justify-content:center;text-align:center;white-space:pre-wrap;cursor:pointer}
+.page>.file{display:flex}
+.file input{flex:1;min-width:0;font:inherit}
+.file button{padding:0 4px;border:1px outset #c0c0c0;background:#c0c0c0;color:#000;cursor:pointer}
+.page>.grid{overflow:auto}
+.grid table{border-collapse:collapse;table-layout:fixed}
+.grid th,.grid td{box-sizing:border-box;height:1.5em;padding:0 3px;border:1px solid #c0c0c0;text-align:start;font-weight:inherit}
+.grid thead{background:#c0c0c0;color:#000}
+.whole{display:block;width:100%;height:100%}
+.ticker span{position:absolute;left:100%;white-space:pre;animation:ticker 10s linear infinite}
+.ticker:hover span,.ticker:focus span,.animation:hover img{animation-play-state:paused}
+.animation img{position:absolute}
+dialog p{white-space:pre-wrap}
+.hidden{position:absolute;width:1px;height:1px;overflow:hidden;clip-path:inset(50%);white-space:nowrap}
+.send:not(:focus){clip-path:inset(50%)}
+@keyframes ticker{from{left:100%}to{left:0;transform:translateX(-100%)}}
+)css";
+
+// The last rule, stronger than those by id.
+constexpr const char *reducedMotion =
+    R"css(@media (prefers-reduced-motion:reduce){
+.page .ticker span{position:static;animation:none;white-space:pre-wrap}
+.page .ticker{overflow:auto}
+.page .animation img{animation:none!important}
+}
+)css";
+
+// The language of the code page's texts where it has one, else that of the few words of the converter.
+const char *language()
+{
+    switch (codePageNumber()) {
+    case 874: return "th";
+    case 1253: return "el";
+    case 1254: return "tr";
+    case 1255: return "he";
+    case 1256: return "ar";
+    case 1258: return "vi";
+    default: return "en";
+    }
+}
+
+const char *typeName(const Page &p)
+{
+    switch (static_cast<PageKind>(p.PageType)) {
+    case PageKind::Query: return "Query";
+    case PageKind::Menu: return "Menu";
+    case PageKind::Record: return "Record";
+    case PageKind::HitList: return "Hit List";
+    case PageKind::QueryView: return "Query View";
+    }
+    return "Page";
+}
+
+std::string pageTitle(const Page &p, std::size_t length)
+{
+    const std::string caption = oneLine(p.pgcaption, length);
+    return escapedUtf8(caption.empty() ? typeName(p) : caption);
+}
+
+std::string pageRule(const Page &p)
+{
+    std::string rule = ".page{position:absolute;left:0;top:0;width:" + std::to_string(std::max<int>(p.bkgwd, 0)) +
+                       "px;height:" + std::to_string(std::max<int>(p.bkght, 0)) +
+                       "px;background:" + cssColour(p.bkgcol);
+    if (const std::string image = mediaAddress(p.bkgfile); !image.empty())
+        rule += " url(\"" + image + "\") no-repeat";
+    return rule + "}\n";
+}
+
+std::string belowPage(const Page &p)
+{
+    return ".below{position:absolute;left:0;top:" + std::to_string(std::max<int>(p.bkght, 0)) + "px}\n";
+}
+
+// A page's sound waits for the visitor below the page.
+std::string sound(const Page &p)
+{
+    const std::string address = mediaAddress(p.sndfn);
+    if (address.empty())
+        return {};
+    return element("audio",
+                   " class=\"below\" controls preload=\"none\"" + attribute("src", address) +
+                       attribute("aria-label", p.sndfn),
+                   "") +
+           "\n";
+}
+
+bool sendsFiles(const Page &p)
+{
+    return std::any_of(p.objects.begin(), p.objects.end(),
+                       [](const ObjectRecord &o) { return kindOf(o.kind) == Kind::File; });
+}
+
+std::string form(const Template &t)
+{
+    std::string content = "\n<div class=\"page\">\n" + t.objects + "</div>\n";
+    if (!t.submits)
+        content += "<button type=\"submit\" class=\"send below\">Submit</button>\n";
+    return element("form",
+                   std::string(" method=\"post\"") + (sendsFiles(t.page) ? " enctype=\"multipart/form-data\"" : ""),
+                   content) +
+           "\n";
+}
+
+std::string head(const Template &t)
+{
+    return "<meta charset=\"utf-8\">\n" + element("title", "", pageTitle(t.page, titleLength)) +
+           "\n<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n" +
+           element("style", "",
+                   "\n" + std::string(commonRules) + pageRule(t.page) + belowPage(t.page) + t.style + reducedMotion) +
+           "\n";
+}
+
+} // namespace
+
+std::string htmlTemplate(const Page &p)
+{
+    Template t(p);
+    for (const std::int16_t index : documentOrder(p))
+        writeElement(t, index);
+    const std::string main = "\n" + element("h1", " class=\"hidden\"", pageTitle(p, std::string::npos)) + "\n" +
+                             form(t) + t.dialogs + sound(p);
+    const std::string direction = (p.pgflags & rtlFlag) != 0 ? "rtl" : "ltr";
+    return "<!DOCTYPE html>\n" +
+           element("html", attribute("lang", language()) + attribute("dir", direction),
+                   "\n" + element("head", "", "\n" + head(t)) + "\n" +
+                       element("body", "", "\n" + element("main", "", main) + "\n") + "\n") +
+           "\n";
+}
+
+} // namespace corvanta

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+// The ODBC catalogue: data sources, tables and columns. Texts are NUL-terminated bytes of the code page; a
+// name is written into a buffer of nameBufferSize bytes that the caller owns, and cut when it is longer.
+// Every function returns a status: 0 = success (of an enumeration: a name was written), any other value =
+// failure (no more names). An enumeration is a First call and then Next calls until a non-zero status; the
+// three enumerations do not disturb each other. Several connections may be open at once.
+namespace corvanta {
+
+inline constexpr std::size_t nameBufferSize = 256;
+
+// The data sources of the user and of the system, each name once.
+std::int32_t GetFirstOdbcDsn(char *name);
+std::int32_t GetNextOdbcDsn(char *name);
+
+// Connects within the log-in time-out of five seconds. Why a connection failed is told on standard error
+// (SQLSTATE and the driver's text, without the password). A file database is never created.
+std::int32_t ConnectDsn(const char *dsn, const char *user, const char *password);
+// Drops the connection that was made with these values.
+std::int32_t DisconnectDsn(const char *dsn, const char *user);
+
+// Tables and views of a connected source in the driver's order, without system tables.
+std::int32_t GetFirstTableName(const char *dsn, const char *user, const char *password, char *name);
+std::int32_t GetNextTableName(char *name);
+
+// Columns of a table: the type as an index into "String" (0), "Integer" (1), "Real" (2), "Date" (3), "Time" (4),
+// "Currency" (5), "Numeric" (6), the length as the column size, 0 to 32767.
+std::int32_t GetFirstColumn(const char *dsn, const char *user, const char *password, const char *table, char *name,
+                            std::int16_t &type, std::int16_t &length);
+std::int32_t GetNextColumn(char *name, std::int16_t &type, std::int16_t &length);
+
+// Drops every connection and releases the library; a later call starts it again.
+std::int32_t OdbcNameEndDll();
+
+} // namespace corvanta

@@ -1,0 +1,85 @@
+#pragma once
+
+#include "document/page.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// The editor's connection to a data source, what the ODBC tool window lists of it, and what a column
+// becomes when it is dropped.
+namespace corvanta {
+
+// The kind buttons of the tool window in their order; exactly one is pressed.
+struct KindButton {
+    const char *name; // shown in its tip
+    Kind kind;
+};
+inline constexpr std::array<KindButton, 9> kindButtons{{{"Button", Kind::Button},
+                                                        {"ComboBox", Kind::ComboBox},
+                                                        {"File Box", Kind::File},
+                                                        {"Grid", Kind::Grid},
+                                                        {"Image", Kind::Image},
+                                                        {"ImageDB", Kind::ImageDb},
+                                                        {"Label", Kind::Label},
+                                                        {"TextBox", Kind::TextBox},
+                                                        {"URL", Kind::Url}}};
+inline constexpr std::size_t textBoxButton = 7; // pressed when the window opens
+
+struct Connection {
+    std::string source, user, password;    // empty source: not connected
+    std::vector<std::string> tables;       // as listed
+    int listedTable = -1;                  // the table whose columns are listed; -1 = none
+    std::vector<std::string> columns;      // of that table
+    std::vector<std::int16_t> columnTypes; // parallel to columns: 0 String, 1 Integer, 2 Real, 3 Date, 4 Time,
+                                           // 5 Currency, 6 Numeric
+    std::vector<std::int16_t> columnLengths;
+    std::size_t pressedButton = textBoxButton; // the chosen object kind
+};
+
+// The one connection of the editor.
+Connection &connection();
+
+// The names of all data sources, for the choice of one.
+std::vector<std::string> dataSources();
+
+// Connects to the source that was chosen; the reply holds source, user and password, tab-separated, and is
+// empty after a cancel. True when there is a new connection, with its tables listed and no columns. A
+// failure is told and changes nothing; the source that is already connected is left alone.
+bool SelectDataSource(Connection &c, std::string_view reply);
+
+void ListTables(Connection &c);
+
+// Lists the columns of a table by its place in the list; a place outside it does nothing.
+void ListColumns(Connection &c, int table);
+// The same after a key was released in the list of tables: only when the table is not listed already.
+void listColumnsAfterKey(Connection &c, int table);
+
+// A column that is being dragged.
+struct DroppedColumn {
+    std::string table, name;
+    std::int16_t type = 0, length = 0;
+};
+
+// The listed column at a place of the list; none outside it.
+std::optional<DroppedColumn> columnAt(const Connection &c, int place);
+
+// A column as the payload of a drag, and back: table, name, type and length, tab-separated.
+std::string dragOfColumn(const DroppedColumn &column);
+std::optional<DroppedColumn> columnOfDrag(std::string_view payload);
+
+// What a data column field takes: table, full stop, column, as in orders.amount.
+std::string qualifiedName(const DroppedColumn &column);
+
+// Whether a column dropped on the page becomes an object of this kind.
+bool acceptsColumn(const Page &p, Kind chosen);
+
+// Binds a new object to the column that it was dropped as: kinds with data binding get name and data column, a
+// Text Box also input type and, of a "String" column, length; captioned kinds show the column's name.
+void bindColumn(Page &p, std::int16_t index, const DroppedColumn &column);
+
+} // namespace corvanta

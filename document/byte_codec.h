@@ -1,0 +1,104 @@
+#pragma once
+
+#include "document/encoding.h"
+#include "document/record_fields.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace corvanta {
+
+// Runs the record descriptions over bytes, from the front of a text that it shortens.
+class ByteReader {
+public:
+    ByteReader(std::string_view &text, std::int16_t version) : in(text), pgversion(version) {}
+
+    void int16(const char *, std::int16_t &v) { v = decodeInt16(in); }
+    void int32(const char *, std::int32_t &v) { v = decodeInt32(in); }
+    void truth(const char *, bool &v) { v = decodeInt16(in) != 0; }
+    void single(const char *, float &v)
+    {
+        v = decodeSingle(in);
+        if (!std::isfinite(v))
+            v = 0;
+    }
+    void text(const char *, std::string &v) { v = decodeString(in); }
+    void action(const char *, std::string &v) { v = decodeString(in); }
+    void optionalText(const char *, std::string &v) { v = in.empty() ? std::string() : decodeString(in); }
+    template <class Body> void group(const char *, Body body) { body(*this); }
+    template <class T, class Each> void counted(const char *, std::vector<T> &entries, std::size_t limit, Each each)
+    {
+        entries.assign(readCount(limit), T{});
+        for (T &entry : entries)
+            each(*this, entry);
+    }
+    void plainTexts(const char *name, std::vector<std::string> &entries, std::size_t limit)
+    {
+        counted(name, entries, limit, [](ByteReader &r, std::string &entry) { r.text("", entry); });
+    }
+    template <class T, class Each> void rest(const char *, std::vector<T> &entries, Each each)
+    {
+        entries.clear();
+        while (!in.empty())
+            each(*this, entries.emplace_back());
+    }
+    void gridColumns(std::vector<GridColumn> &columns)
+    {
+        columns.assign(readCount(gridColumnLimit) + 1, GridColumn{});
+        const std::string block = decodeString(in);
+        std::string_view left = block;
+        ByteReader inner(left, pgversion);
+        for (std::size_t i = 0; i + 1 < columns.size(); ++i)
+            gridColumnFields(inner, columns[i]);
+    }
+    bool strictTiming() const { return pgversion >= 2; }
+
+private:
+    std::size_t readCount(std::size_t limit)
+    {
+        return std::min<std::size_t>(static_cast<std::size_t>(std::max<std::int16_t>(decodeInt16(in), 0)), limit);
+    }
+
+    std::string_view &in;
+    std::int16_t pgversion;
+};
+
+// Runs the record descriptions over records and collects their bytes.
+class ByteWriter {
+public:
+    std::string out;
+
+    void int16(const char *, std::int16_t v) { out += encodeInt16(v); }
+    void int32(const char *, std::int32_t v) { out += encodeInt32(v); }
+    void truth(const char *, bool v) { out += encodeInt16(v ? -1 : 0); }
+    void single(const char *, float v) { out += encodeSingle(v); }
+    void text(const char *, const std::string &v) { out += encodeString(v); }
+    void action(const char *, const std::string &v) { out += encodeString(v); }
+    void optionalText(const char *, const std::string &v) { out += encodeString(v); }
+    template <class Body> void group(const char *, Body body) { body(*this); }
+    template <class T, class Each> void counted(const char *, const std::vector<T> &entries, std::size_t, Each each)
+    {
+        out += encodeInt16(static_cast<std::int16_t>(entries.size()));
+        for (const T &entry : entries)
+            each(*this, entry);
+    }
+    void plainTexts(const char *name, const std::vector<std::string> &entries, std::size_t limit)
+    {
+        counted(name, entries, limit, [](ByteWriter &w, const std::string &entry) { w.text("", entry); });
+    }
+    template <class T, class Each> void rest(const char *, const std::vector<T> &entries, Each each)
+    {
+        for (const T &entry : entries)
+            each(*this, entry);
+    }
+    void gridColumns(const std::vector<GridColumn> &columns)
+    {
+        ByteWriter inner;
+        for (std::size_t i = 0; i + 1 < columns.size(); ++i)
+            gridColumnFields(inner, columns[i]);
+        out += encodeInt16(static_cast<std::int16_t>(columns.size() - 1)) + encodeString(inner.out);
+    }
+    bool strictTiming() const { return true; }
+};
+
+} // namespace corvanta

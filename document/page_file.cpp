@@ -1,0 +1,190 @@
+#include "document/page_file.h"
+
+#include "document/byte_codec.h"
+#include "document/events.h"
+#include "document/media.h"
+#include "document/objects.h"
+#include "platform/asking.h"
+#include "platform/files.h"
+#include "platform/paths.h"
+#include "platform/text.h"
+
+namespace corvanta {
+
+namespace {
+
+constexpr const char *readingFile = "Reading File", *savingFile = "Saving File";
+
+void tellReadError(std::string_view text)
+{
+    if (editing().msgflag)
+        showExclamation(text, readingFile);
+}
+
+void call(const std::function<void()> &event)
+{
+    if (event)
+        event();
+}
+
+void setFileTag(const std::string &path)
+{
+    editing().filetag = path;
+    call(documentEvents().fileChanged);
+}
+
+std::string directoryOfFile(const std::string &path)
+{
+    const std::string directory = directoryPart(path);
+    return directory.empty() ? withTrailingBackslash(currentDirectory()) : directory;
+}
+
+FileDialog savePageDialog()
+{
+    const std::string &tag = editing().filetag;
+    FileDialog dialog;
+    dialog.kind = FileDialog::Kind::Save;
+    dialog.overwritePrompt = true;
+    dialog.defaultExtension = "ODS";
+    dialog.filter = "ODBC Form Files (*.ods)|*.ods|All Files (*.*)|*.*";
+    dialog.initialDirectory = tag.empty() ? initialDirectory() : withoutTrailingBackslash(directoryPart(tag));
+    dialog.fileName = fileNamePart(tag);
+    return dialog;
+}
+
+void readPageHeader(Page &p, std::string_view header)
+{
+    ByteReader reader(header, p.pgversion);
+    headerFields(reader, p);
+}
+
+} // namespace
+
+std::string serialiseObject(const Page &p, std::int16_t index)
+{
+    const auto i = static_cast<std::size_t>(index);
+    const ObjectRecord &o = p.objects.at(i);
+    ByteWriter body;
+    body.int16("kind", o.kind);
+    commonFields(body, o);
+    if (const auto kind = kindOf(o.kind)) {
+        const auto frames = kind == Kind::Animation ? framesOf(p, index) : std::vector<Frame>();
+        kindTail(body, p, *kind, p.ctlindex[i], frames);
+    }
+    return encodeString(body.out);
+}
+
+std::string serialisePage(const Page &p)
+{
+    ByteWriter header;
+    headerFields(header, p);
+    header.out.replace(0, 2, encodeInt16(currentVersion));
+    std::string text = encodeString(header.out);
+    for (std::int16_t i = 0; i < objectCount(p); ++i)
+        text += serialiseObject(p, i);
+    return text;
+}
+
+void parsePage(Page &p, std::string_view text)
+{
+    if (text.empty())
+        return;
+    const std::string header = decodeString(text);
+    if (!header.empty())
+        readPageHeader(p, header);
+    if (&p == &page())
+        call(documentEvents().pageLayout);
+    while (!text.empty())
+        createVisual(p, decodeString(text));
+}
+
+std::string readWholeFile(std::string_view path, std::size_t limit)
+{
+    FileContent file = readFile(path, limit);
+    if (file.tooLarge)
+        tellReadError("File too large - more than " + std::to_string(limit) + " bytes.");
+    else if (!file.error.empty())
+        tellReadError(file.error);
+    else if (file.missing || file.length == 0)
+        tellReadError("File doesn't exist.");
+    else
+        return std::move(file.bytes);
+    return {};
+}
+
+bool writeWholeFile(std::string_view path, std::string_view text)
+{
+    if (text.size() > fileLimit) {
+        showExclamation("File too large.", savingFile);
+        return false;
+    }
+    const auto error = writeFileAtomically(path, text);
+    if (error)
+        showExclamation(*error, savingFile);
+    return !error;
+}
+
+void newPage()
+{
+    clearObjects();
+    page() = Page();
+    setFileTag("");
+    call(documentEvents().showCanvas);
+    call(documentEvents().pageLayout);
+    call(documentEvents().objectCount);
+    editing().pagedirty = false;
+}
+
+void openPage(const std::string &path)
+{
+    newPage();
+    setFileTag(path);
+    parsePage(page(), readWholeFile(path, fileLimit));
+    loadPageMedia();
+    editing().curdir = directoryOfFile(path);
+}
+
+bool savePage()
+{
+    if (editing().filetag.empty())
+        return savePageAs();
+    if (!writeWholeFile(fileNamePart(editing().filetag), serialisePage(page())))
+        return false;
+    editing().pagedirty = false;
+    return true;
+}
+
+bool savePageAs()
+{
+    const auto path = asking().fileDialog ? asking().fileDialog(savePageDialog()) : std::nullopt;
+    if (!path || path->empty() || !writeWholeFile(*path, serialisePage(page())))
+        return false;
+    editing().pagedirty = false;
+    setFileTag(*path);
+    editing().curdir = directoryOfFile(*path);
+    return true;
+}
+
+bool querySave()
+{
+    if (!editing().pagedirty)
+        return true;
+    switch (
+        showMessage({"Save changes to current page?", "Corvanta Form Editor", Icon::Question, Buttons::YesNoCancel})) {
+    case Answer::Yes: return savePage();
+    case Answer::No: return true;
+    case Answer::Ok:
+    case Answer::Cancel: return false;
+    }
+    return false;
+}
+
+std::string filePanelCaption()
+{
+    const std::string &tag = editing().filetag;
+    return tag.empty() ? "(New file)" : upperCase(doubleAmpersands(fileNamePart(tag)));
+}
+
+std::string initialDirectory() { return withoutTrailingBackslash(editing().curdir); }
+
+} // namespace corvanta

@@ -1,0 +1,63 @@
+#include "document/parse.h"
+
+#include "document/page.h"
+#include "platform/asking.h"
+#include "platform/text.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <optional>
+
+namespace corvanta {
+
+namespace {
+
+constexpr double largest16 = 32767, largest32 = 2147483647;
+
+double clamped(double value, double limit) { return std::clamp(std::nearbyint(value), -limit, limit); }
+
+// The leading hexadecimal digits as a 32-bit pattern; none when they do not fit.
+std::optional<std::int32_t> hexadecimal(std::string_view digits)
+{
+    std::uint32_t value = 0;
+    const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), value, 16);
+    if (result.ec == std::errc::result_out_of_range)
+        return std::nullopt;
+    return static_cast<std::int32_t>(value);
+}
+
+bool hasHexPrefix(std::string_view text) { return sameText(text.substr(0, 2), "&H"); }
+
+} // namespace
+
+std::int16_t ParseInt16Clamped(std::string_view text)
+{
+    return static_cast<std::int16_t>(clamped(leadingNumber(text), largest16));
+}
+
+std::int32_t ParseInt32Clamped(std::string_view text)
+{
+    const double value = hasHexPrefix(text) ? hexadecimal(text.substr(2)).value_or(0) : leadingNumber(text);
+    return static_cast<std::int32_t>(clamped(value, largest32));
+}
+
+std::int32_t ParseColourText(std::string_view text)
+{
+    const std::string digits = trimmed(text);
+    if (!hexadecimal(digits)) {
+        if (editing().msgflag)
+            showMessage({"Overflow", "Long conversion Error", Icon::Information, Buttons::Ok});
+        return 0;
+    }
+    return ParseInt32Clamped("&H" + digits);
+}
+
+std::string colourText(std::int32_t colour)
+{
+    char digits[8];
+    const auto end = std::to_chars(digits, digits + sizeof digits, static_cast<std::uint32_t>(colour), 16).ptr;
+    return upperCase(std::string_view(digits, static_cast<std::size_t>(end - digits)));
+}
+
+} // namespace corvanta

@@ -1,0 +1,137 @@
+#include "document/parse.h"
+#include "objects/ui/dialogs.h"
+#include "objects/ui/entry_list.h"
+#include "platform/qt/text.h"
+#include "platform/text.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+
+#include <memory>
+
+namespace corvanta {
+
+namespace {
+
+// The fields of one frame and the frame that they show.
+struct FrameFields {
+    PropertyDialog &d;
+    QListWidget *list = nullptr;
+    QCheckBox *frozen = nullptr;
+    QLineEdit *ptop = nullptr, *pleft = nullptr, *imgfn = nullptr, *sndfn = nullptr, *duration = nullptr;
+    int shown = -1; // the frame whose fields are shown; -1 none
+};
+
+std::vector<std::string> linesOf(const std::vector<Frame> &frames)
+{
+    std::vector<std::string> lines;
+    for (std::size_t i = 0; i < frames.size(); ++i)
+        lines.push_back("Animation Frame " + std::to_string(i + 1));
+    return lines;
+}
+
+std::int16_t numberIn(const QLineEdit &field) { return ParseInt16Clamped(toBytes(field.text())); }
+
+std::string textIn(const QLineEdit &field) { return trimmed(toBytes(field.text())); }
+
+// Copies the fields into the frame that they show.
+void TakeFrameFields(FrameFields &f)
+{
+    auto &frames = f.d.values.frames;
+    if (f.shown < 0 || static_cast<std::size_t>(f.shown) >= frames.size())
+        return;
+    Frame &frame = frames[static_cast<std::size_t>(f.shown)];
+    if (f.ptop->isEnabled())
+        frame.top = numberIn(*f.ptop);
+    if (f.pleft->isEnabled())
+        frame.left = numberIn(*f.pleft);
+    frame.image = textIn(*f.imgfn);
+    frame.sound = textIn(*f.sndfn);
+    frame.duration = numberIn(*f.duration);
+}
+
+void showField(QLineEdit &field, const char *label, const QString &text, bool enabled)
+{
+    setFieldEnabled(field, enabled);
+    labelOf(field)->setText(enabled ? QString(label) : QString(label).remove('&'));
+    field.setText(text);
+}
+
+// Without a frame the fields are disabled and empty; a stationary animation has the place of its first frame.
+void showFrame(FrameFields &f, int row)
+{
+    f.shown = row;
+    const bool any = row >= 0;
+    const Frame frame = any ? f.d.values.frames[static_cast<std::size_t>(row)] : Frame();
+    const bool placed = row == 0 || (any && !f.frozen->isChecked());
+    const auto number = [&](int value) { return any ? QString::number(value) : QString(); };
+    const auto place = [&](int value) { return placed || !any ? number(value) : QString("N/A"); };
+    showField(*f.ptop, "&Top:", place(frame.top), placed);
+    showField(*f.pleft, "&Left:", place(frame.left), placed);
+    showField(*f.imgfn, "&Image:", toQString(frame.image), any);
+    showField(*f.sndfn, "S&ound:", toQString(frame.sound), any);
+    showField(*f.duration, "&Duration:", number(frame.duration), any);
+}
+
+void ShowFrameFields(FrameFields &f)
+{
+    TakeFrameFields(f);
+    showFrame(f, f.list->currentRow());
+}
+
+void editFrames(FrameFields &f, EntryCommand command, int selected)
+{
+    TakeFrameFields(f);
+    f.shown = -1; // the rows move: nothing is to be taken into them
+    auto &frames = f.d.values.frames;
+    const int now = applyEntry(frames, command, selected);
+    showEntries(*f.list, linesOf(frames), now);
+}
+
+void addFrameFields(FrameFields &f, QBoxLayout &layout)
+{
+    Group group = addGroup(layout, "frame", "Frame", 2);
+    f.ptop = addNumberRow(group.fields, "ptop", "&Top:");
+    f.pleft = addNumberRow(group.fields, "pleft", "&Left:");
+    f.imgfn = addTextRow(group.fields, "imgfn", "&Image:");
+    f.sndfn = addTextRow(group.fields, "sndfn", "S&ound:");
+    f.duration = addNumberRow(group.fields, "duration", "&Duration:");
+    addHintBeside(group.fields, "(1/10 seconds)");
+}
+
+void addPlayback(FrameFields &f, QBoxLayout &layout)
+{
+    Group group = addGroup(layout, "playback", "Playback");
+    f.d.tie(addNumberRow(group.fields, "nplay", "&Play"), &PropertyFields::nplay);
+    addHintBeside(group.fields, "times (0=forever)");
+    f.frozen = addCheckRow(group.fields, "frozen", "Stationary animation");
+    f.d.tie(f.frozen, &PropertyFields::frozen);
+    f.d.tie(addCheckRow(group.fields, "strictime", "Use stricter animation timing"), &PropertyFields::strictime);
+    addHoverRow(f.d, group.fields);
+}
+
+} // namespace
+
+void buildAniobj(PropertyDialog &d)
+{
+    const auto columns = addColumns(d.contents(), 2);
+    auto f = std::make_shared<FrameFields>(FrameFields{d});
+    addStandardProperties(d, *columns[0], false);
+    addActionGroup(d, *columns[0]);
+    addPlayback(*f, *columns[0]);
+
+    Group frames = addGroup(*columns[1], "frames", "Frames");
+    f->list = addListRow(frames.fields, "aniedit", "");
+    addEntryButtons(*frames.contents, "lbbut", {EntryCommand::New, EntryCommand::Delete, EntryCommand::Insert},
+                    *f->list, [f](EntryCommand command, int selected) { editFrames(*f, command, selected); });
+    addFrameFields(*f, *columns[1]);
+
+    QObject::connect(f->list, &QListWidget::currentRowChanged, f->list, [f] { ShowFrameFields(*f); });
+    QObject::connect(f->frozen, &QCheckBox::toggled, f->list, [f] { ShowFrameFields(*f); });
+    d.onLoad([f] { showEntries(*f->list, linesOf(f->d.values.frames), f->d.values.frames.empty() ? -1 : 0); });
+    d.onTake([f] { TakeFrameFields(*f); });
+}
+
+} // namespace corvanta

@@ -1,0 +1,28 @@
+#include "objects/ui/dialogs.h"
+
+namespace corvanta {
+
+void buildButobj(PropertyDialog &d)
+{
+    const auto columns = addColumns(d.contents(), 2);
+    addStandardProperties(d, *columns[0]);
+    addActionGroup(d, *columns[0]);
+
+    Group look = addGroup(*columns[1], "look", "Appearance");
+    d.tie(addTextRow(look.fields, "cap", "&Caption:"), &PropertyFields::cap);
+    d.tie(addTextRow(look.fields, "imgfn", "&Image:"), &PropertyFields::imgfn);
+    d.tie(addNumberRow(look.fields, "bwidth", "&BevelWidth:"), &PropertyFields::bwidth);
+    addHintBeside(look.fields, "(0-10)");
+    addAlignmentRow(d, look.fields, "Alignment:");
+    addFontButton(d, look.fields);
+    addTabIndexRow(d, look.fields, "Tab Index:");
+
+    Group use = addGroup(*columns[1], "use", "Use");
+    d.tie(addTextRow(use.fields, "viewcond", "&View Condition:"), &PropertyFields::viewcond);
+    d.tie(addTextRow(use.fields, "enacond", "&Enable Condition:"), &PropertyFields::enacond);
+    d.tie(addTextRow(use.fields, "credits", "&Credits:"), &PropertyFields::credits);
+    d.tie(addTextRow(use.fields, "auditmsg", "Audit Message:"), &PropertyFields::auditmsg);
+    d.tie(addTextRow(use.fields, "balhelp", "Baloon Help:"), &PropertyFields::balhelp);
+}
+
+} // namespace corvanta

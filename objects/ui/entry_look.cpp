@@ -1,0 +1,36 @@
+#include "objects/ui/entry_look.h"
+
+#include "document/parse.h"
+#include "platform/qt/colours.h"
+#include "platform/qt/fonts.h"
+#include "platform/qt/text.h"
+
+#include <QLineEdit>
+#include <QListWidget>
+
+namespace corvanta {
+
+namespace {
+
+void dress(QListWidget &list, const FontBlock &font, const std::string &colour)
+{
+    QPalette palette = list.palette();
+    palette.setColor(QPalette::Text, toQColor(font.ForeColor));
+    palette.setColor(QPalette::Base, toQColor(ParseColourText(colour)));
+    list.setPalette(palette);
+    list.setFont(toQFont(font));
+}
+
+} // namespace
+
+void addEntryAppearance(PropertyDialog &d, Group &look, QListWidget &list, bool alignment)
+{
+    const auto redress = [&d, &list] { dress(list, d.values.font, toBytes(d.findChild<QLineEdit *>("col")->text())); };
+    addColourRow(d, look.fields, redress);
+    addFontButton(d, look.fields, redress);
+    if (alignment)
+        addAlignmentRow(d, look.fields, "Alignment:");
+    d.onLoad(redress);
+}
+
+} // namespace corvanta

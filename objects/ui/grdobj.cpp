@@ -1,0 +1,111 @@
+#include "document/tablist.h"
+#include "objects/ui/dialogs.h"
+#include "objects/ui/entry_list.h"
+#include "objects/ui/entry_look.h"
+#include "objects/ui/grdcol.h"
+#include "platform/qt/text.h"
+
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QListWidget>
+#include <QTableWidget>
+
+#include <cmath>
+
+namespace corvanta {
+
+namespace {
+
+constexpr std::int16_t newColumnWidth = 1200; // twips
+constexpr int previewHeight = 70;             // pixels
+
+std::vector<std::string> headersOf(const std::vector<GridColumn> &columns)
+{
+    std::vector<std::string> headers;
+    for (const GridColumn &column : columns)
+        headers.push_back(fieldAt(column.descriptor, 0));
+    return headers;
+}
+
+// The preview has one empty column when there are no entries.
+void showPreview(QTableWidget &preview, const std::vector<GridColumn> &columns)
+{
+    const QSignalBlocker quiet(preview.horizontalHeader());
+    preview.setColumnCount(std::max(1, static_cast<int>(columns.size())));
+    for (int i = 0; i < preview.columnCount(); ++i) {
+        const bool entry = static_cast<std::size_t>(i) < columns.size();
+        const GridColumn column = entry ? columns[static_cast<std::size_t>(i)] : GridColumn{"", newColumnWidth};
+        preview.setHorizontalHeaderItem(i, new QTableWidgetItem(toQString(fieldAt(column.descriptor, 0))));
+        preview.setColumnWidth(i, static_cast<int>(std::lround(column.width / twipsPerPixelX())));
+    }
+}
+
+// Every width is taken again from the preview, but for those that it shows unchanged.
+void takeWidths(const QTableWidget &preview, std::vector<GridColumn> &columns)
+{
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        const int pixels = preview.columnWidth(static_cast<int>(i));
+        if (pixels != std::lround(columns[i].width / twipsPerPixelX()))
+            columns[i].width = static_cast<std::int16_t>(std::min(pixels * twipsPerPixelX(), 32767.0));
+    }
+}
+
+void editEntry(PropertyDialog &d, QListWidget &list, QTableWidget &preview, EntryCommand command, int selected)
+{
+    auto &columns = d.values.columns;
+    const bool grows = command == EntryCommand::New || command == EntryCommand::Insert;
+    if (grows && !checkEntryLimit(columns.size(), "grid header", "Grid Properties"))
+        return;
+    GridColumn column{"", newColumnWidth};
+    if (command == EntryCommand::Edit && selected >= 0)
+        column = columns[static_cast<std::size_t>(selected)];
+    if (command != EntryCommand::Delete) {
+        column.descriptor = EditGridColumn(column.descriptor);
+        if (column.descriptor.empty())
+            return;
+    }
+    const int now = applyEntry(columns, command, selected, column);
+    showEntries(list, headersOf(columns), now);
+    showPreview(preview, columns);
+}
+
+QTableWidget *addPreview(PropertyDialog &d, Group &header)
+{
+    auto *preview = new QTableWidget(1, 1, header.box);
+    preview->setMinimumHeight(previewHeight);
+    preview->setMaximumHeight(2 * previewHeight);
+    preview->verticalHeader()->hide();
+    preview->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    preview->setTabKeyNavigation(false);
+    addWidgetRow(header.fields, *preview, "grd", "");
+    QObject::connect(preview->horizontalHeader(), &QHeaderView::sectionResized, preview,
+                     [&d, preview] { takeWidths(*preview, d.values.columns); });
+    return preview;
+}
+
+} // namespace
+
+void buildGrdobj(PropertyDialog &d)
+{
+    const auto columns = addColumns(d.contents(), 2);
+    addStandardProperties(d, *columns[0]);
+    addActionGroup(d, *columns[0]);
+    Group look = addGroup(*columns[0], "look", "Appearance");
+
+    Group header = addGroup(*columns[1], "header", "Header");
+    QListWidget *list = addListRow(header.fields, "grdedit", "");
+    QTableWidget *preview = addPreview(d, header);
+    addEntryButtons(
+        *header.contents, "lbbut", {EntryCommand::New, EntryCommand::Edit, EntryCommand::Insert, EntryCommand::Delete},
+        *list,
+        [&d, list, preview](EntryCommand command, int selected) { editEntry(d, *list, *preview, command, selected); });
+    d.onLoad([&d, list, preview] {
+        showEntries(*list, headersOf(d.values.columns), -1);
+        showPreview(*preview, d.values.columns);
+    });
+
+    addEntryAppearance(d, look, *list, false);
+    addTabIndexRow(d, look.fields, "&Tab Index:");
+}
+
+} // namespace corvanta

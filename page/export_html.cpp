@@ -1,0 +1,36 @@
+#include "page/export_html.h"
+
+#include "converter/ods2hts.h"
+#include "document/page_file.h"
+#include "platform/asking.h"
+
+namespace corvanta {
+
+namespace {
+
+void tell(const std::string &text) { showMessage({text, "Corvanta HTML convert", Icon::None, Buttons::Ok}); }
+
+// False when the author cancelled or the save did not succeed.
+bool saveFirst()
+{
+    if (!editing().pagedirty)
+        return true;
+    const Answer answer = showMessage({"Save changes to current page before converting to HTML?",
+                                       "Corvanta Form Editor", Icon::Question, Buttons::YesNoCancel});
+    return answer == Answer::No || (answer == Answer::Yes && savePage());
+}
+
+} // namespace
+
+void ConvertToHtml()
+{
+    if (!saveFirst() || editing().filetag.empty())
+        return;
+    const std::string &path = editing().filetag;
+    if (ConvertOdsHts(path.c_str()) == 0)
+        return tell("Error converting " + path);
+    const std::string templatePath = path.substr(0, path.size() < 3 ? 0 : path.size() - 3) + "hts";
+    tell("The file " + templatePath + " has been saved\ras an HTML template.\rYou may edit it using any HTML Editor");
+}
+
+} // namespace corvanta

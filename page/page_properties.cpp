@@ -1,0 +1,149 @@
+#include "page/page_properties.h"
+
+#include "document/events.h"
+#include "document/media.h"
+#include "document/parse.h"
+#include "platform/asking.h"
+#include "platform/text.h"
+
+namespace corvanta {
+
+namespace {
+
+constexpr const char *imageMessage =
+    "Invalid background file name.  To change the directory, use \"File... Directory\".";
+constexpr const char *soundMessage = "Invalid sound file name.  To change the directory, use \"File... Directory\".";
+
+bool refuse(const char *text)
+{
+    showExclamation(text, "Properties Error");
+    return false;
+}
+
+bool checkSize(const PagePropertyFields &f, ScreenSize screen)
+{
+    const int height = ParseInt16Clamped(f.bkght), width = ParseInt16Clamped(f.bkgwd);
+    if (height < 1 || height > screen.height)
+        return refuse("Invalid background height.");
+    if (width < 1 || width > screen.width)
+        return refuse("Invalid background width.");
+    return true;
+}
+
+// The named background picture fits the screen.
+bool checkPicture(const PicturePtr &picture, ScreenSize screen)
+{
+    if (!picture)
+        return refuse(imageMessage);
+    if (picture->height > screen.height)
+        return refuse("Invalid picture's height.");
+    if (picture->width > screen.width)
+        return refuse("Invalid picture's width.");
+    return true;
+}
+
+std::int16_t flagsOf(const PagePropertyFields &f)
+{
+    int flags = sizeIsTyped(f.imgfn) ? 0 : sizeFromImage;
+    flags |= f.rtl ? rtlFlag : 0;
+    flags |= f.anonymous ? anonymousFlag : 0;
+    flags |= f.replacehtml ? replaceHtmlFlag : 0;
+    return static_cast<std::int16_t>(flags);
+}
+
+void storeBackground(Page &p, const PagePropertyFields &f, const PicturePtr &picture)
+{
+    p.bkgfile = trimmed(f.imgfn);
+    p.bkgcol = ParseColourText(f.bkgcol);
+    p.bkght = picture ? static_cast<std::int16_t>(picture->height) : ParseInt16Clamped(f.bkght);
+    p.bkgwd = picture ? static_cast<std::int16_t>(picture->width) : ParseInt16Clamped(f.bkgwd);
+    p.background = picture;
+    p.sndfn = trimmed(f.sndfn);
+}
+
+// The connection text always has exactly three tabs, whatever was pasted into its fields.
+std::string joinedConnection(std::initializer_list<std::string> parts)
+{
+    std::string text;
+    for (std::string part : parts) {
+        std::erase(part, '\t');
+        text += part + '\t';
+    }
+    text.pop_back();
+    return text;
+}
+
+void storeFields(Page &p, const PagePropertyFields &f)
+{
+    p.pgflags = flagsOf(f);
+    p.PageType = static_cast<std::int16_t>(f.PageType);
+    p.dbconnect = joinedConnection({f.dsn, f.Username, f.Password, f.deftbl});
+    p.SelectStmt = f.SelectStmt;
+    p.pgcaption = f.pgcaption;
+    p.keyreq = f.keyreq;
+}
+
+} // namespace
+
+const std::vector<const char *> &pageTypeNames()
+{
+    static const std::vector<const char *> names{"Query", "Menu", "Record", "Hit List", "Query View"};
+    return names;
+}
+
+PagePropertyFields LoadPageProperties(const Page &p)
+{
+    PagePropertyFields f;
+    f.imgfn = p.bkgfile;
+    f.sndfn = p.sndfn;
+    f.bkgcol = colourText(p.bkgcol);
+    f.bkght = std::to_string(p.bkght);
+    f.bkgwd = std::to_string(p.bkgwd);
+    f.PageType = p.PageType;
+    f.dsn = connectPart(p, 0);
+    f.Username = connectPart(p, 1);
+    f.Password = connectPart(p, 2);
+    f.deftbl = connectPart(p, 3);
+    f.SelectStmt = p.SelectStmt;
+    f.pgcaption = p.pgcaption;
+    f.keyreq = p.keyreq;
+    f.rtl = (p.pgflags & rtlFlag) != 0;
+    f.anonymous = (p.pgflags & anonymousFlag) != 0;
+    f.replacehtml = (p.pgflags & replaceHtmlFlag) != 0;
+    return f;
+}
+
+bool showsDefaultTable(int pageType)
+{
+    const auto type = static_cast<PageKind>(pageType);
+    return type == PageKind::Query || type == PageKind::Record || type == PageKind::QueryView;
+}
+
+bool showsSelectStatement(int pageType) { return static_cast<PageKind>(pageType) == PageKind::Record; }
+
+bool sizeIsTyped(const std::string &imgfn) { return trimmed(imgfn).empty(); }
+
+PageConfirmation ConfirmPageProperties(const PagePropertyFields &f, ScreenSize screen)
+{
+    if (!CheckFileName(f.imgfn, imageMessage))
+        return {false, "imgfn"};
+    if (!CheckFileName(f.sndfn, soundMessage))
+        return {false, "sndfn"};
+    if (!checkSize(f, screen))
+        return {};
+    const PicturePtr picture = loadPicture(trimmed(f.imgfn));
+    if (!sizeIsTyped(f.imgfn) && !checkPicture(picture, screen))
+        return {};
+    Page &p = page();
+    storeBackground(p, f, picture);
+    storeFields(p, f);
+    playPageSound();
+    if (documentEvents().pageLayout)
+        documentEvents().pageLayout();
+    if (documentEvents().pageChanged)
+        documentEvents().pageChanged();
+    pageEdited();
+    return {true, ""};
+}
+
+} // namespace corvanta

@@ -1,0 +1,177 @@
+#include "platform/codepage.h"
+
+#include "platform/codepage_tables.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace corvanta {
+
+namespace {
+
+constexpr char32_t malformed = 0xFFFFFFFF;
+
+struct CurrentCodePage {
+    const CodePageTable *table = nullptr;
+    std::array<std::pair<char16_t, unsigned char>, 128> reverse; // sorted by character
+
+    explicit CurrentCodePage(const CodePageTable &newTable) { set(newTable); }
+
+    void set(const CodePageTable &newTable)
+    {
+        table = &newTable;
+        for (unsigned i = 0; i < reverse.size(); ++i)
+            reverse[i] = {newTable.upperHalf[i], static_cast<unsigned char>(0x80 + i)};
+        std::sort(reverse.begin(), reverse.end());
+    }
+};
+
+CurrentCodePage &current()
+{
+    static CurrentCodePage page(codePageTables().front());
+    return page;
+}
+
+struct LanguageCodePage {
+    std::string_view languages; // each between blanks
+    int codePage;
+};
+
+constexpr LanguageCodePage languageCodePages[] = {
+    {" th ", 874},
+    {" bs cs hr hu pl ro sk sl sq ", 1250},
+    {" be bg kk ky mk mn ru sr tg tt uk ", 1251},
+    {" el ", 1253},
+    {" az tr uz ", 1254},
+    {" he iw yi ", 1255},
+    {" ar fa ps sd ug ur ", 1256},
+    {" et lt lv ", 1257},
+    {" vi ", 1258},
+};
+
+void appendUtf8(std::string &utf8, char32_t character)
+{
+    const auto continuation = [&](int shift) { return static_cast<char>(0x80 | ((character >> shift) & 0x3F)); };
+    if (character < 0x80) {
+        utf8 += static_cast<char>(character);
+    } else if (character < 0x800) {
+        utf8 += static_cast<char>(0xC0 | (character >> 6));
+        utf8 += continuation(0);
+    } else {
+        utf8 += static_cast<char>(0xE0 | (character >> 12));
+        utf8 += continuation(6);
+        utf8 += continuation(0);
+    }
+}
+
+std::size_t sequenceLength(unsigned char lead)
+{
+    if (lead < 0x80)
+        return 1;
+    if (lead >= 0xC2 && lead < 0xE0)
+        return 2;
+    if (lead >= 0xE0 && lead < 0xF0)
+        return 3;
+    return lead >= 0xF0 && lead < 0xF5 ? 4 : 0;
+}
+
+// Takes the first character off; of a malformed sequence only the first byte.
+char32_t takeCharacter(std::string_view &utf8)
+{
+    const auto lead = static_cast<unsigned char>(utf8.front());
+    const std::size_t length = sequenceLength(lead);
+    const std::string_view rest = utf8.substr(1, length == 0 ? 0 : length - 1);
+    utf8.remove_prefix(1);
+    if (length == 0 || rest.size() + 1 < length)
+        return malformed;
+    char32_t character = length == 1 ? lead : lead & (0x7Fu >> length);
+    for (const char c : rest) {
+        if ((static_cast<unsigned char>(c) & 0xC0) != 0x80)
+            return malformed;
+        character = (character << 6) | (static_cast<unsigned char>(c) & 0x3Fu);
+    }
+    const bool overlong = (length == 3 && character < 0x800) || (length == 4 && character < 0x10000);
+    const bool surrogate = character >= 0xD800 && character < 0xE000;
+    if (overlong || surrogate || character > 0x10FFFF)
+        return malformed;
+    utf8.remove_prefix(rest.size());
+    return character;
+}
+
+} // namespace
+
+bool setCodePage(int number)
+{
+    for (const CodePageTable &table : codePageTables()) {
+        if (table.number == number) {
+            current().set(table);
+            return true;
+        }
+    }
+    return false;
+}
+
+int codePageNumber() { return current().table->number; }
+
+int codePageOfLocale(std::string_view locale)
+{
+    const std::string language = " " + std::string(locale.substr(0, locale.find_first_of("_-.@"))) + " ";
+    const bool latin = locale.find("@latin") != std::string_view::npos;
+    const bool cyrillic = locale.find("@cyrillic") != std::string_view::npos;
+    for (const auto &[languages, codePage] : languageCodePages) {
+        if (languages.find(language) == std::string_view::npos)
+            continue;
+        if (latin && codePage == 1251)
+            return 1250;
+        return cyrillic ? 1251 : codePage;
+    }
+    return 1252;
+}
+
+char32_t characterOf(unsigned char byte) { return byte < 0x80 ? byte : current().table->upperHalf[byte - 0x80]; }
+
+std::optional<unsigned char> byteOf(char32_t character)
+{
+    if (character < 0x80)
+        return static_cast<unsigned char>(character);
+    const auto &reverse = current().reverse;
+    const auto found = std::lower_bound(reverse.begin(), reverse.end(), character,
+                                        [](const auto &entry, char32_t c) { return entry.first < c; });
+    if (found == reverse.end() || found->first != character)
+        return std::nullopt;
+    return found->second;
+}
+
+std::string toUtf8(std::string_view bytes)
+{
+    std::string utf8;
+    utf8.reserve(bytes.size());
+    for (const char c : bytes)
+        appendUtf8(utf8, characterOf(static_cast<unsigned char>(c)));
+    return utf8;
+}
+
+std::optional<std::string> fromUtf8(std::string_view utf8)
+{
+    std::string bytes;
+    bytes.reserve(utf8.size());
+    while (!utf8.empty()) {
+        const auto byte = byteOf(takeCharacter(utf8));
+        if (!byte)
+            return std::nullopt;
+        bytes += static_cast<char>(*byte);
+    }
+    return bytes;
+}
+
+std::string fromUtf8Lossy(std::string_view utf8)
+{
+    std::string bytes;
+    bytes.reserve(utf8.size());
+    while (!utf8.empty())
+        bytes += static_cast<char>(byteOf(takeCharacter(utf8)).value_or('?'));
+    return bytes;
+}
+
+} // namespace corvanta

@@ -1,0 +1,244 @@
+#include "platform/files.h"
+
+#include "platform/codepage.h"
+#include "platform/host_files.h"
+#include "platform/paths.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <fcntl.h>
+#include <random>
+#include <sys/stat.h>
+#include <system_error>
+#include <unistd.h>
+#include <utility>
+
+namespace corvanta {
+
+namespace {
+
+constexpr int noError = 0;
+constexpr int temporaryNameTries = 100;
+
+// An open file; closed at the end.
+class Descriptor {
+public:
+    explicit Descriptor(int opened = -1) : fd(opened) {}
+    Descriptor(Descriptor &&other) noexcept : fd(std::exchange(other.fd, -1)) {}
+    Descriptor &operator=(Descriptor &&) = delete;
+    ~Descriptor() { close(); }
+
+    explicit operator bool() const { return fd >= 0; }
+    int get() const { return fd; }
+
+    int close()
+    {
+        const int closing = std::exchange(fd, -1);
+        return closing >= 0 && ::close(closing) != 0 && errno != EINTR ? errno : noError;
+    }
+
+private:
+    int fd;
+};
+
+struct TemporaryFile {
+    Descriptor file;
+    std::filesystem::path name;
+    int error = noError; // why it could not be opened
+};
+
+std::string description(int error) { return fromUtf8Lossy(std::system_category().message(error)); }
+
+int errorOf(int result) { return result < 0 ? errno : noError; }
+
+int irregularFileError(const struct stat &status)
+{
+    if (S_ISREG(status.st_mode))
+        return noError;
+    return S_ISDIR(status.st_mode) ? EISDIR : EOPNOTSUPP;
+}
+
+// Appends at most limit + 1 bytes.
+int readUpTo(int fd, std::uintmax_t limit, std::string &bytes)
+{
+    std::array<char, 65536> chunk;
+    while (bytes.size() <= limit) {
+        const std::uintmax_t wanted = std::min<std::uintmax_t>(chunk.size() - 1, limit - bytes.size()) + 1;
+        const ssize_t count = read(fd, chunk.data(), wanted);
+        if (count == 0)
+            return noError;
+        if (count > 0)
+            bytes.append(chunk.data(), static_cast<std::size_t>(count));
+        else if (errno != EINTR)
+            return errno;
+    }
+    return noError;
+}
+
+int writeAll(int fd, std::string_view bytes)
+{
+    while (!bytes.empty()) {
+        const ssize_t count = write(fd, bytes.data(), bytes.size());
+        if (count > 0)
+            bytes.remove_prefix(static_cast<std::size_t>(count));
+        else if (count == 0)
+            return EIO;
+        else if (errno != EINTR)
+            return errno;
+    }
+    return noError;
+}
+
+// The file that a chain of symbolic links ends at, whether it exists or not.
+std::filesystem::path followLinks(std::filesystem::path file)
+{
+    std::error_code error;
+    for (int links = 0; links < 40 && std::filesystem::is_symlink(file, error); ++links)
+        file = file.parent_path() / std::filesystem::read_symlink(file, error);
+    return file;
+}
+
+std::string randomName()
+{
+    static thread_local std::random_device random;
+    constexpr char digits[] = "0123456789abcdef";
+    std::string name = ".corvanta-";
+    for (int i = 0; i < 16; ++i)
+        name += digits[random() % 16];
+    return name;
+}
+
+TemporaryFile openTemporary(const std::filesystem::path &folder, mode_t mode)
+{
+    for (int i = 0; i < temporaryNameTries; ++i) {
+        const std::filesystem::path name = folder / randomName();
+        Descriptor file(open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode));
+        if (file)
+            return {std::move(file), name};
+        if (errno != EEXIST)
+            break;
+    }
+    return {Descriptor(), {}, errno};
+}
+
+// The owner is kept where the system allows it; the mode must be.
+int takeOver(int fd, const struct stat &target)
+{
+    if (fchown(fd, target.st_uid, target.st_gid) != 0)
+        static_cast<void>(fchown(fd, static_cast<uid_t>(-1), target.st_gid) == 0);
+    return errorOf(fchmod(fd, target.st_mode & 0777));
+}
+
+void flushFolder(const std::filesystem::path &folder)
+{
+    const Descriptor directory(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (directory)
+        fsync(directory.get());
+}
+
+// Over the old bytes, for a file whose folder takes no new one. The room is taken first, so that a full disk
+// leaves the file as it was.
+int writeInPlace(const std::filesystem::path &target, std::string_view bytes)
+{
+    Descriptor file(open(target.c_str(), O_WRONLY | O_CLOEXEC | O_NONBLOCK));
+    struct stat status;
+    if (!file || fstat(file.get(), &status) != 0)
+        return errno;
+    const auto length = static_cast<off_t>(bytes.size());
+    int error = length > status.st_size ? posix_fallocate(file.get(), 0, length) : noError;
+    if (error != noError) {
+        static_cast<void>(ftruncate(file.get(), status.st_size) == 0);
+        return error;
+    }
+    error = writeAll(file.get(), bytes);
+    if (error == noError)
+        error = errorOf(ftruncate(file.get(), length));
+    if (error == noError)
+        error = errorOf(fsync(file.get()));
+    const int closing = file.close();
+    return error != noError ? error : closing;
+}
+
+int fillTemporary(Descriptor &file, std::string_view bytes, const struct stat *target)
+{
+    int error = writeAll(file.get(), bytes);
+    if (error == noError && target != nullptr)
+        error = takeOver(file.get(), *target);
+    if (error == noError)
+        error = errorOf(fsync(file.get()));
+    const int closing = file.close();
+    return error != noError ? error : closing;
+}
+
+int replaceFile(const std::filesystem::path &file, std::string_view bytes)
+{
+    const std::filesystem::path target = followLinks(file);
+    struct stat status;
+    const bool exists = stat(target.c_str(), &status) == 0;
+    if (!exists && errno != ENOENT)
+        return errno;
+    if (exists && irregularFileError(status) != noError)
+        return irregularFileError(status);
+    TemporaryFile temporary = openTemporary(target.parent_path(), exists ? 0600 : 0666);
+    if (!temporary.file) {
+        const bool closedFolder = temporary.error == EACCES || temporary.error == EPERM || temporary.error == EROFS;
+        return exists && closedFolder ? writeInPlace(target, bytes) : temporary.error;
+    }
+    int error = fillTemporary(temporary.file, bytes, exists ? &status : nullptr);
+    if (error == noError)
+        error = errorOf(rename(temporary.name.c_str(), target.c_str()));
+    if (error != noError)
+        unlink(temporary.name.c_str());
+    else
+        flushFolder(target.parent_path());
+    return error;
+}
+
+} // namespace
+
+FileContent readHostFile(const std::filesystem::path &file, std::uintmax_t limit)
+{
+    FileContent content;
+    const Descriptor opened(open(file.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+    struct stat status;
+    if (!opened || fstat(opened.get(), &status) != 0) {
+        content.missing = errno == ENOENT || errno == ENOTDIR;
+        if (!content.missing)
+            content.error = description(errno);
+        return content;
+    }
+    int error = irregularFileError(status);
+    if (error == noError) {
+        content.length = static_cast<std::uintmax_t>(status.st_size);
+        if (content.length <= limit)
+            error = readUpTo(opened.get(), limit, content.bytes);
+        content.length = std::max<std::uintmax_t>(content.length, content.bytes.size());
+        content.tooLarge = content.length > limit;
+    }
+    if (error != noError)
+        content.error = description(error);
+    if (error != noError || content.tooLarge)
+        content.bytes.clear();
+    return content;
+}
+
+std::optional<std::string> writeHostFileAtomically(const std::filesystem::path &file, std::string_view bytes)
+{
+    const int error = replaceFile(file, bytes);
+    if (error == noError)
+        return std::nullopt;
+    return description(error);
+}
+
+FileContent readFile(std::string_view drivePath, std::uintmax_t limit)
+{
+    return readHostFile(hostPath(drivePath), limit);
+}
+
+std::optional<std::string> writeFileAtomically(std::string_view drivePath, std::string_view bytes)
+{
+    return writeHostFileAtomically(hostPath(drivePath), bytes);
+}
+
+} // namespace corvanta

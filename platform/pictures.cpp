@@ -1,0 +1,11 @@
+#include "platform/pictures.h"
+
+namespace corvanta {
+
+std::function<PicturePtr(const std::string &)> &pictureLoader()
+{
+    static std::function<PicturePtr(const std::string &)> loader;
+    return loader;
+}
+
+} // namespace corvanta

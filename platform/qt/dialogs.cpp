@@ -1,0 +1,135 @@
+#include "platform/qt/dialogs.h"
+
+#include "platform/placement.h"
+
+#include <QDialog>
+#include <QGuiApplication>
+#include <QPushButton>
+#include <QScreen>
+#include <QVBoxLayout>
+
+#include <cmath>
+
+namespace corvanta {
+
+namespace {
+
+constexpr int columnGap = 8; // pixels
+constexpr int gapAboveButtons = 6;
+
+Area areaOf(const QWidget &window, const QPoint &origin)
+{
+    const QRect frame = window.frameGeometry().translated(-origin);
+    return {frame.x() * twipsPerPixelX(), frame.y() * twipsPerPixelY(), frame.width() * twipsPerPixelX(),
+            frame.height() * twipsPerPixelY()};
+}
+
+int pixels(double twips, double twipsPerPixel) { return static_cast<int>(std::floor(twips / twipsPerPixel)); }
+
+QPushButton *addButton(QBoxLayout &layout, QWidget *parent, const ButtonRow &row)
+{
+    auto *button = new QPushButton(row.caption, parent);
+    button->setObjectName(row.name);
+    button->setAccessibleName(plainLabel(row.caption));
+    if (row.clicked)
+        QObject::connect(button, &QPushButton::clicked, button, [clicked = row.clicked] { clicked(); });
+    layout.addWidget(button);
+    return button;
+}
+
+} // namespace
+
+double twipsPerPixelX() { return 1440 / QGuiApplication::primaryScreen()->logicalDotsPerInchX(); }
+
+double twipsPerPixelY() { return 1440 / QGuiApplication::primaryScreen()->logicalDotsPerInchY(); }
+
+void CentreDialog(QWidget &dialog, QWidget *owner)
+{
+    if (dialog.windowState() & (Qt::WindowMinimized | Qt::WindowMaximized | Qt::WindowFullScreen))
+        return;
+    if (!dialog.testAttribute(Qt::WA_Resized))
+        dialog.resize(dialog.sizeHint());
+    const QRect screen = dialog.screen()->geometry();
+    const double twipsX = twipsPerPixelX(), twipsY = twipsPerPixelY();
+    const Area before = areaOf(dialog, screen.topLeft());
+    std::optional<Area> reference;
+    if (owner && !owner->isMinimized())
+        reference = areaOf(*owner, screen.topLeft());
+    const Area after = centredArea(before, {0, 0, screen.width() * twipsX, screen.height() * twipsY}, reference);
+    const QSize surplus(pixels(before.width - after.width, twipsX), pixels(before.height - after.height, twipsY));
+    if (!surplus.isNull())
+        dialog.resize(dialog.size() - surplus);
+    dialog.move(screen.topLeft() + QPoint(pixels(after.left, twipsX), pixels(after.top, twipsY)));
+}
+
+void TrimWindowMenu(QWidget &dialog, int mode)
+{
+    if (mode == 1)
+        dialog.setWindowFlags((dialog.windowFlags() & Qt::WindowType_Mask) | Qt::CustomizeWindowHint |
+                              Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
+}
+
+QVBoxLayout *startDialog(QDialog &dialog, const char *name, const QString &caption)
+{
+    dialog.setObjectName(name);
+    dialog.setWindowTitle(caption);
+    TrimWindowMenu(dialog, 1);
+    auto *frame = new QVBoxLayout(&dialog);
+    auto *contents = new QVBoxLayout;
+    frame->addLayout(contents, 1);
+    frame->addStretch();
+    return contents;
+}
+
+std::vector<QVBoxLayout *> addColumns(QBoxLayout &layout, int count)
+{
+    auto *row = new QHBoxLayout;
+    layout.addLayout(row);
+    std::vector<QVBoxLayout *> columns;
+    for (int i = 0; i < count; ++i) {
+        if (i > 0)
+            row->addSpacing(columnGap);
+        auto *frame = new QVBoxLayout;
+        row->addLayout(frame, 1);
+        columns.push_back(new QVBoxLayout);
+        frame->addLayout(columns.back(), 1);
+        frame->addStretch();
+    }
+    return columns;
+}
+
+std::vector<QPushButton *> addButtonRow(QBoxLayout &layout, const std::vector<ButtonRow> &buttons)
+{
+    auto *row = new QHBoxLayout;
+    layout.addLayout(row);
+    std::vector<QPushButton *> added;
+    for (const ButtonRow &button : buttons)
+        added.push_back(addButton(*row, layout.parentWidget(), button));
+    row->addStretch();
+    return added;
+}
+
+std::vector<QPushButton *> addButtons(QDialog &dialog, const std::vector<ButtonRow> &buttons)
+{
+    auto *row = new QHBoxLayout;
+    row->setContentsMargins(0, gapAboveButtons, 0, 0);
+    static_cast<QBoxLayout *>(dialog.layout())->addLayout(row);
+    row->addStretch();
+    std::vector<QPushButton *> added;
+    for (const ButtonRow &button : buttons)
+        added.push_back(addButton(*row, &dialog, button));
+    added.front()->setDefault(true);
+    return added;
+}
+
+QString plainLabel(const QString &label)
+{
+    QString text = label;
+    text.replace("&&", QChar(QChar::Null)).remove('&').replace(QChar(QChar::Null), '&');
+    text = text.trimmed();
+    if (text.endsWith(':'))
+        text.chop(1);
+    return text.trimmed();
+}
+
+} // namespace corvanta

@@ -1,0 +1,131 @@
+#include "platform/qt/file_dialog.h"
+
+#include "platform/paths.h"
+#include "platform/qt/text.h"
+#include "platform/text.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QLineEdit>
+
+#include <filesystem>
+
+namespace corvanta {
+
+namespace {
+
+QString hostText(const std::filesystem::path &host) { return QFile::decodeName(host.c_str()); }
+
+std::filesystem::path toPath(const QString &host) { return QFile::encodeName(host).toStdString(); }
+
+bool isThere(const std::filesystem::path &host)
+{
+    std::error_code error;
+    return std::filesystem::exists(host, error);
+}
+
+bool isDirectory(const std::filesystem::path &host)
+{
+    std::error_code error;
+    return std::filesystem::is_directory(host, error);
+}
+
+bool isDrivePath(const QString &typed) { return typed.size() > 1 && typed[0].isLetter() && typed[1] == ':'; }
+
+// The host path of a typed name: the file of exactly that name, else the one that differs in letter case only.
+std::filesystem::path typedPath(QString typed, const QDir &folder)
+{
+    if (isDrivePath(typed))
+        return hostPath(toBytes(typed));
+    typed.replace('\\', '/');
+    const std::filesystem::path host = toPath(QDir::cleanPath(folder.absoluteFilePath(typed)));
+    const std::string path = isThere(host) ? std::string() : drivePath(host);
+    return path.empty() ? host : hostPath(path);
+}
+
+// A file whose name the code page lacks, or outside every drive, has no drive path.
+bool hasDrivePath(const std::filesystem::path &host)
+{
+    const std::string path = drivePath(host);
+    return !path.empty() && hostPath(path) == host;
+}
+
+class FileWindow : public QFileDialog {
+public:
+    FileWindow(const FileDialog &asked, QWidget *owner) : QFileDialog(owner), question(asked)
+    {
+        setOption(DontUseNativeDialog);
+        setOption(HideNameFilterDetails);
+        setOption(DontConfirmOverwrite, !question.overwritePrompt);
+        setAcceptMode(question.kind == FileDialog::Kind::Open ? AcceptOpen : AcceptSave);
+        setFileMode(question.mustExist ? ExistingFile : AnyFile);
+        setWindowTitle(question.kind == FileDialog::Kind::Open ? "Open" : "Save As");
+        setNameFilters(corvanta::nameFilters(question.filter));
+        const std::filesystem::path start = hostPath(question.initialDirectory);
+        setDirectory(hostText(isDirectory(start) ? start : hostPath(currentDirectory())));
+        nameEdit()->setText(toQString(question.fileName));
+        nameEdit()->selectAll();
+    }
+
+    void accept() override
+    {
+        const QString typed = nameEdit()->text();
+        std::filesystem::path host = typedPath(typed, directory());
+        if (typed.isEmpty() || typed.startsWith('~') || isDirectory(host)) {
+            QFileDialog::accept();
+            return;
+        }
+        host = withExtension(host);
+        if (!hasDrivePath(host)) {
+            showExclamation("This file name cannot be used: " + toBytes(typed), toBytes(windowTitle()));
+            return;
+        }
+        nameEdit()->setText(directory().relativeFilePath(hostText(host)));
+        QFileDialog::accept();
+        if (isVisible())
+            nameEdit()->setText(typed);
+    }
+
+private:
+    QLineEdit *nameEdit() { return findChild<QLineEdit *>("fileNameEdit"); }
+
+    std::filesystem::path withExtension(const std::filesystem::path &host) const
+    {
+        const std::string name = host.filename().string();
+        const bool named = question.kind == FileDialog::Kind::Open && isThere(host);
+        if (named || question.defaultExtension.empty() || name.find('.') != std::string::npos)
+            return host;
+        return typedPath(hostText(host) + '.' + toQString(question.defaultExtension), directory());
+    }
+
+    const FileDialog &question;
+};
+
+} // namespace
+
+QStringList nameFilters(const std::string &filter)
+{
+    QStringList filters;
+    const QStringList parts = toQString(filter).split('|');
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        QStringList patterns = parts[i + 1].split(';', Qt::SkipEmptyParts);
+        patterns.replaceInStrings("*.*", "*");
+        filters.append(parts[i] + " (" + patterns.join(' ') + ')');
+    }
+    return filters;
+}
+
+std::optional<std::string> showFileDialog(const FileDialog &question, QWidget *owner)
+{
+    FileWindow window(question, owner);
+    if (window.exec() != QDialog::Accepted || window.selectedFiles().isEmpty())
+        return std::nullopt;
+    const std::string chosen = drivePath(toPath(window.selectedFiles().first()));
+    if (chosen.empty())
+        return std::nullopt;
+    changeDirectory(directoryPart(chosen));
+    return chosen;
+}
+
+} // namespace corvanta

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "platform/asking.h"
+
+#include <QStringList>
+
+#include <optional>
+#include <string>
+
+class QWidget;
+
+namespace corvanta {
+
+// "Caption (*.ods)|*.ods|All Files (*.*)|*.*" as the toolkit's filters, each its caption and the patterns.
+QStringList nameFilters(const std::string &filter);
+
+// Asks for a file. Typed names may be host or drive paths, in any letter case; names without an extension get the
+// default one. The directory of the chosen file becomes current.
+std::optional<std::string> showFileDialog(const FileDialog &question, QWidget *owner);
+
+} // namespace corvanta

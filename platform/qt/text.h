@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+
+#include <string>
+#include <string_view>
+
+// The one place where bytes of the code page become the toolkit's texts, and back.
+namespace corvanta {
+
+QString toQString(std::string_view bytes);
+
+// Characters that the code page lacks become "?".
+std::string toBytes(const QString &text);
+
+} // namespace corvanta

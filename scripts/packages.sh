@@ -1,0 +1,44 @@
+# The Debian packages that the project needs, and their installation. Sourced by ./run and ./test.
+
+BUILD_PACKAGES=(
+  g++ cmake ninja-build ccache pkg-config
+  qt6-base-dev qt6-base-dev-tools libgl-dev libsdl2-mixer-dev unixodbc-dev
+  nlohmann-json3-dev libcli11-dev libsimpleini-dev libgtest-dev libbenchmark-dev
+)
+# Needed by the running editor; the second line serves machines without a display.
+RUN_PACKAGES=(
+  qt6-qpa-plugins fonts-liberation fonts-dejavu-core timgm6mb-soundfont libsqliteodbc sqlite3
+  xvfb openbox imagemagick x11vnc x11-utils
+)
+TEST_PACKAGES=(
+  clang-format python3
+)
+# Left out by ./test --quick: servers, browsers, the virtual screen's tools.
+FULL_TEST_PACKAGES=(
+  xvfb openbox xdotool imagemagick x11-utils libsqliteodbc odbc-postgresql postgresql sqlite3
+  fonts-liberation fonts-dejavu-core
+)
+
+# Installs those of the named packages that are missing.
+install_packages() {
+  local missing=()
+  local name
+  for name in "$@"; do
+    [ "$(dpkg-query -W -f='${db:Status-Status}' "$name" 2>/dev/null)" = installed ] || missing+=("$name")
+  done
+  [ ${#missing[@]} -eq 0 ] && return 0
+  echo "Installing: ${missing[*]}"
+  local as_root=()
+  [ "$(id -u)" = 0 ] || as_root=(sudo)
+  "${as_root[@]}" apt-get update -qq
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends \
+    "${missing[@]}" >/dev/null
+}
+
+# Configures and builds a preset.
+build_preset() {
+  local preset=$1
+  shift
+  [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset" >/dev/null
+  cmake --build --preset "$preset" "$@"
+}

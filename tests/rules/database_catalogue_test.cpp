@@ -1,0 +1,188 @@
+#include "database/catalogue.h"
+#include "database/connection.h"
+#include "platform/codepage.h"
+#include "tests/rules/database_sources.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <map>
+
+namespace corvanta {
+namespace {
+
+using Types = std::map<std::string, std::pair<int, int>>; // name: type, length
+
+class Catalogue : public testing::Test {
+protected:
+    Catalogue()
+    {
+        setCodePage(1252);
+        testsources::setUp();
+    }
+    ~Catalogue() override { OdbcNameEndDll(); }
+
+    static std::vector<std::string> tablesOf(const char *dsn)
+    {
+        Connection c;
+        c.source = dsn;
+        ListTables(c);
+        return c.tables;
+    }
+
+    static Types columnsOf(const char *dsn, const std::string &table)
+    {
+        Types columns;
+        char name[nameBufferSize];
+        std::int16_t type = 0, length = 0;
+        for (int status = GetFirstColumn(dsn, "", "", table.c_str(), name, type, length); status == 0;
+             status = GetNextColumn(name, type, length))
+            columns[name] = {type, length};
+        return columns;
+    }
+
+    static std::string failureOf(const char *dsn, const char *password)
+    {
+        testing::internal::CaptureStderr();
+        EXPECT_NE(ConnectDsn(dsn, "ann", password), 0);
+        return testing::internal::GetCapturedStderr();
+    }
+};
+
+TEST_F(Catalogue, ListsSourcesOfUserAndSystemOnce)
+{
+    std::vector<std::string> names = dataSources();
+    for (const char *name : {"Shop", "Gr\xF6\xDF"
+                                     "e",
+                             "Types", "Lost File", "Archive"})
+        EXPECT_EQ(std::count(names.begin(), names.end(), name), 1) << name;
+    char name[nameBufferSize];
+    EXPECT_NE(GetNextOdbcDsn(name), 0);
+}
+
+TEST_F(Catalogue, ListsTablesAndViewsOfTheShop)
+{
+    for (const char *dsn : {"Shop", "Archive", "Gr\xF6\xDF"
+                                               "e"}) {
+        ASSERT_EQ(ConnectDsn(dsn, "", ""), 0) << dsn;
+        EXPECT_EQ(tablesOf(dsn), (std::vector<std::string>{"Customers", "H\xE4ndler", "Products", "Orders",
+                                                           "Order Lines", "Open Orders", "PriceList"}));
+    }
+    EXPECT_EQ(columnsOf("Shop", "Customers")["CreditLimit"].first, 6);
+    EXPECT_EQ(columnsOf("Shop", "Order Lines").count("Order No"), 1U);
+    EXPECT_EQ(columnsOf("Shop", "H\xE4ndler")["Stra\xDF"
+                                              "e"],
+              std::pair(0, 40));
+    EXPECT_EQ(columnsOf("Shop", "PriceList").size(), 5U);
+}
+
+TEST_F(Catalogue, MapsTheTypesOfSqlite)
+{
+    ASSERT_EQ(ConnectDsn("Types", "", ""), 0);
+    std::vector<std::string> tables = tablesOf("Types");
+    EXPECT_EQ(std::count(tables.begin(), tables.end(), "sqlite_sequence"), 0);
+    Types columns = columnsOf("Types", "Types");
+    std::map<std::string, int> expected{
+        {"a_integer", 1}, {"a_smallint", 1}, {"a_tinyint", 1}, {"a_bigint", 1},   {"a_real", 2},     {"a_double", 2},
+        {"a_float", 2},   {"a_numeric", 6},  {"a_decimal", 6}, {"a_money", 5},    {"a_currency", 5}, {"a_date", 3},
+        {"a_time", 4},    {"a_datetime", 3}, {"a_varchar", 0}, {"a_timestamp", 3}, {"a_char", 0},    {"a_text", 0},
+        {"a_boolean", 0}, {"a_blob", 0},     {"a_wide", 0},    {"an_unknown", 0}};
+    EXPECT_EQ(columns.size(), expected.size());
+    for (const auto &[name, type] : expected)
+        EXPECT_EQ(columns[name].first, type) << name;
+    EXPECT_EQ(columns["a_varchar"].second, 40);
+    EXPECT_EQ(columns["a_char"].second, 5);
+    EXPECT_EQ(columns["a_numeric"].second, 10);
+    EXPECT_EQ(columns["a_text"].second, 32767);
+    EXPECT_EQ(columns["a_wide"].second, 32767);
+    EXPECT_EQ(columnsOf("Types", "Seen"), (Types{{"a_varchar", {0, 40}}, {"a_date", {3, 10}}}));
+}
+
+TEST_F(Catalogue, TakesNamesLiterally)
+{
+    ASSERT_EQ(ConnectDsn("Types", "", ""), 0);
+    for (bool listed : {false, true}) { // asked for by name, then as the driver spelt it
+        EXPECT_EQ(columnsOf("Types", "a_b"), (Types{{"inside", {1, 10}}}));
+        EXPECT_EQ(columnsOf("Types", "50% off"), (Types{{"discount", {1, 10}}}));
+        EXPECT_EQ(columnsOf("Types", "say \"hi\""), (Types{{"greeting", {0, 7}}}));
+        EXPECT_EQ(columnsOf("Types", "back\\slash"), (Types{{"path", {0, 9}}}));
+        EXPECT_EQ(columnsOf("Types", "Stra\xDF"
+                                     "e \x80"),
+                  (Types{{"Gr\xF6\xDF"
+                          "e",
+                          {0, 3}}}));
+        EXPECT_TRUE(columnsOf("Types", "no such table").empty());
+        if (!listed)
+            tablesOf("Types");
+    }
+}
+
+TEST_F(Catalogue, CutsLongNamesAndMarksForeignCharacters)
+{
+    ASSERT_EQ(ConnectDsn("Types", "", ""), 0);
+    std::vector<std::string> tables = tablesOf("Types");
+    std::string longName(255, 'n');
+    EXPECT_EQ(std::count(tables.begin(), tables.end(), longName), 1);
+    EXPECT_EQ(columnsOf("Types", longName), (Types{{std::string(255, 'c'), {3, 10}}}));
+    EXPECT_EQ(std::count(tables.begin(), tables.end(), "?"), 1);
+    EXPECT_EQ(columnsOf("Types", "?"), (Types{{"?mega ?", {1, 10}}}));
+}
+
+TEST_F(Catalogue, FailsWithoutAFileAndCreatesNone)
+{
+    EXPECT_NE(failureOf("Lost File", "").find("08001"), std::string::npos);
+    EXPECT_FALSE(std::filesystem::exists(testsources::setUp() / "lost.db"));
+}
+
+TEST_F(Catalogue, TellsWhyWithoutThePassword)
+{
+    EXPECT_NE(failureOf("Lost Driver", "").find("IM002 "), std::string::npos);
+    std::string told = failureOf("No Such Source", "not found"); // words of the driver manager's text
+    EXPECT_NE(told.find("***"), std::string::npos);
+    EXPECT_EQ(told.find("not found"), std::string::npos);
+    failureOf("Shop;Driver=SQLite3;Database=/tmp/injected.db", "");
+    failureOf("{Shop}", "");
+}
+
+TEST_F(Catalogue, GivesNothingWithoutAConnection)
+{
+    char name[nameBufferSize];
+    std::int16_t type = 0, length = 0;
+    EXPECT_NE(GetFirstTableName("Shop", "", "", name), 0);
+    EXPECT_NE(GetFirstColumn("Shop", "", "", "Customers", name, type, length), 0);
+    EXPECT_NE(DisconnectDsn("Shop", ""), 0);
+    ASSERT_EQ(ConnectDsn("Shop", "", ""), 0);
+    EXPECT_NE(GetFirstTableName("Shop", "other user", "", name), 0);
+    EXPECT_EQ(GetFirstTableName("Shop", "", "", name), 0);
+    EXPECT_EQ(DisconnectDsn("Shop", ""), 0);
+    EXPECT_NE(GetFirstTableName("Shop", "", "", name), 0);
+    EXPECT_NE(GetNextTableName(name), 0);
+}
+
+TEST_F(Catalogue, KeepsItsEnumerationsApart)
+{
+    ASSERT_EQ(ConnectDsn("Shop", "", ""), 0);
+    ASSERT_EQ(ConnectDsn("Types", "", ""), 0);
+    char name[nameBufferSize], other[nameBufferSize];
+    std::int16_t type = 0, length = 0;
+    ASSERT_EQ(GetFirstTableName("Shop", "", "", name), 0);
+    ASSERT_EQ(GetFirstColumn("Types", "", "", "Seen", other, type, length), 0);
+    ASSERT_EQ(GetNextTableName(name), 0);
+    EXPECT_STREQ(name, "H\xE4ndler");
+    ASSERT_EQ(GetNextColumn(other, type, length), 0);
+    EXPECT_STREQ(other, "a_date");
+}
+
+TEST_F(Catalogue, LeaksNothingInAThousandRounds)
+{
+    for (int round = 0; round < 1000; ++round) {
+        ASSERT_EQ(ConnectDsn("Shop", "", ""), 0);
+        ASSERT_EQ(tablesOf("Shop").size(), 7U);
+        ASSERT_EQ(columnsOf("Shop", "Orders").size(), 6U);
+        ASSERT_EQ(DisconnectDsn("Shop", ""), 0);
+    }
+}
+
+} // namespace
+} // namespace corvanta

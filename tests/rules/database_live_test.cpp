@@ -1,0 +1,247 @@
+#include "database/catalogue.h"
+#include "database/connection.h"
+#include "database/sql.h"
+#include "document/page_file.h"
+#include "platform/codepage.h"
+#include "tests/rules/database_sources.h"
+#include "tests/support/samples.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <sql.h>
+#include <sqlext.h>
+
+// Against the PostgreSQL server of tests/live/database, and what generated statements do on real databases.
+namespace corvanta {
+namespace {
+
+class DatabaseLive : public testing::Test {
+protected:
+    DatabaseLive()
+    {
+        setCodePage(1252);
+        testsources::setUp();
+    }
+    ~DatabaseLive() override { OdbcNameEndDll(); }
+
+    void SetUp() override
+    {
+        if (!testsources::haveServer())
+            GTEST_SKIP() << "no server";
+    }
+
+    bool connectTo(const std::string &source)
+    {
+        return SelectDataSource(c, source + "\t" + testsources::serverUser + "\t" + testsources::serverPassword);
+    }
+
+    void listColumnsOf(const std::string &table)
+    {
+        auto place = std::find(c.tables.begin(), c.tables.end(), table);
+        ASSERT_NE(place, c.tables.end()) << table;
+        ListColumns(c, static_cast<int>(place - c.tables.begin()));
+    }
+
+    int typeOf(const std::string &column) const
+    {
+        auto place = std::find(c.columns.begin(), c.columns.end(), column);
+        return place == c.columns.end() ? -1 : c.columnTypes[place - c.columns.begin()];
+    }
+
+    Connection c;
+};
+
+TEST_F(DatabaseLive, ListsTablesAndViewsOfTheServer)
+{
+    for (const char *source : {"Live", "Live ANSI"}) {
+        ASSERT_TRUE(connectTo(source)) << source;
+        for (const char *name : {"customers", "h\xE4ndler", "Order Lines", "Open Orders", "pricelist", "standing"})
+            EXPECT_EQ(std::count(c.tables.begin(), c.tables.end(), name), 1) << source << " " << name;
+        EXPECT_EQ(std::count(c.tables.begin(), c.tables.end(), "pg_class"), 0);
+        listColumnsOf("h\xE4ndler");
+        EXPECT_EQ(c.columns, (std::vector<std::string>{"k\xFCrzel", "name",
+                                                       "stra\xDF"
+                                                       "e",
+                                                       "ort"}));
+        listColumnsOf("standing");
+        EXPECT_EQ(c.columns.size(), 2U);
+    }
+}
+
+TEST_F(DatabaseLive, MapsTheTypesOfTheServer)
+{
+    ASSERT_TRUE(connectTo("Live"));
+    listColumnsOf("types");
+    std::map<std::string, int> expected{
+        {"a_serial", 1}, {"a_smallint", 1},  {"a_bigint", 1},  {"a_real", 2},      {"a_double", 2},    {"a_numeric", 6},
+        {"a_money", 5},  {"a_decimal", 6},   {"a_date", 3},    {"a_timestamp", 3}, {"a_timestamptz", 3}, {"a_time", 4},
+        {"a_char", 0},   {"a_varchar", 0},   {"a_text", 0},    {"a_boolean", 0},   {"a_bytea", 0},     {"a_uuid", 0},
+        {"a_json", 0},   {"an_interval", 0}, {"an_array", 0}};
+    EXPECT_EQ(c.columns.size(), expected.size());
+    for (const auto &[name, type] : expected)
+        EXPECT_EQ(typeOf(name), type) << name;
+    for (std::int16_t length : c.columnLengths)
+        EXPECT_GE(length, 0);
+}
+
+TEST_F(DatabaseLive, TakesTheColumnsOfOneTableOfManySchemas)
+{
+    ASSERT_TRUE(connectTo("Live"));
+    ASSERT_EQ(std::count(c.tables.begin(), c.tables.end(), "twin"), 2);
+    listColumnsOf("twin");
+    EXPECT_EQ(c.columns.size(), 1U);
+    listColumnsOf("a_b");
+    EXPECT_EQ(c.columns, std::vector<std::string>{"inside"});
+}
+
+TEST_F(DatabaseLive, RefusesAWrongPasswordWithoutTellingIt)
+{
+    testing::internal::CaptureStderr();
+    EXPECT_NE(ConnectDsn("Live", testsources::serverUser, testsources::serverUser), 0); // the text names the user
+    std::string told = testing::internal::GetCapturedStderr();
+    EXPECT_NE(told.find("***"), std::string::npos) << told;
+    EXPECT_EQ(told.find(testsources::serverUser), std::string::npos) << told;
+}
+
+TEST_F(DatabaseLive, GivesUpOnAServerThatNeverAnswers)
+{
+    testing::internal::CaptureStderr();
+    EXPECT_NE(ConnectDsn("Silent", "ann", "secret"), 0); // ends at all: the log-in time-out
+    EXPECT_EQ(testing::internal::GetCapturedStderr().find("secret"), std::string::npos);
+}
+
+void replaceAll(std::string &text, const std::string &what, const std::string &by)
+{
+    for (std::size_t at = 0; (at = text.find(what, at)) != std::string::npos; at += by.size())
+        text.replace(at, what.size(), by);
+}
+
+std::string inputFor(const Page &p, std::int16_t index)
+{
+    std::int16_t type = p.objects[index].kind == 5 ? p.tbxextras[p.ctlindex[index]].inptype : std::int16_t{0};
+    if (type == 3)
+        return "1990-07-30";
+    return type == 1 || type == 2 || type == 6 ? "10" : "H";
+}
+
+// What the client does with a statement before it runs it.
+std::string filled(const Page &p, std::string statement)
+{
+    for (const ObjectRecord &object : p.objects)
+        if (!object.condobjname.empty())
+            replaceAll(statement, "@" + object.condobjname + "@", "=");
+    for (std::int16_t index = 0; index < objectCount(p); ++index)
+        if (!p.objects[index].ctlname.empty())
+            replaceAll(statement, "@" + p.objects[index].ctlname + "@", inputFor(p, index));
+    return statement;
+}
+
+// Runs a statement over a connection of its own; the driver's text when it fails.
+std::string failureOf(const std::string &source, const std::string &user, const std::string &password,
+                      const std::string &statement)
+{
+    auto text = [](const std::string &s) { return reinterpret_cast<SQLCHAR *>(const_cast<char *>(s.c_str())); };
+    SQLHANDLE environment = nullptr, connection = nullptr, handle = nullptr;
+    SQLAllocHandle(SQL_HANDLE_ENV, nullptr, &environment);
+    SQLSetEnvAttr(environment, SQL_ATTR_ODBC_VERSION, reinterpret_cast<SQLPOINTER>(SQL_OV_ODBC3), 0);
+    SQLAllocHandle(SQL_HANDLE_DBC, environment, &connection);
+    SQLCHAR state[6] = "", message[512] = "not connected";
+    if (SQL_SUCCEEDED(SQLConnect(connection, text(source), SQL_NTS, text(user), SQL_NTS, text(password), SQL_NTS))) {
+        message[0] = 0;
+        SQLAllocHandle(SQL_HANDLE_STMT, connection, &handle);
+        SQLRETURN done = SQLExecDirect(handle, text(statement), SQL_NTS);
+        while (SQL_SUCCEEDED(done) && done != SQL_NO_DATA)
+            done = SQLFetch(handle);
+        if (done != SQL_NO_DATA)
+            SQLGetDiagRec(SQL_HANDLE_STMT, handle, 1, state, nullptr, message, sizeof message, nullptr);
+        SQLFreeHandle(SQL_HANDLE_STMT, handle);
+        SQLDisconnect(connection);
+    }
+    SQLFreeHandle(SQL_HANDLE_DBC, connection);
+    SQLFreeHandle(SQL_HANDLE_ENV, environment);
+    return reinterpret_cast<const char *>(message);
+}
+
+class GeneratedStatements : public DatabaseLive, public testing::WithParamInterface<const char *> {
+protected:
+    void SetUp() override
+    {
+        if (GetParam() != std::string("Shop"))
+            DatabaseLive::SetUp();
+    }
+
+    void run(const std::string &statement)
+    {
+        bool server = GetParam() != std::string("Shop");
+        EXPECT_EQ(failureOf(GetParam(), server ? "reader" : "", server ? "reader" : "", toUtf8(statement)), "")
+            << statement;
+    }
+
+    // Binds a page as dropping the columns of its default table does, by their bare names where those hold a
+    // blank.
+    void bindAnew(Page &p)
+    {
+        for (std::int16_t index = 0; index < objectCount(p); ++index) {
+            std::string &column = p.objects[index].datacol;
+            std::string bare = column.substr(column.find('.') + 1);
+            if (bare.find(' ') != std::string::npos)
+                column = bare;
+            std::string listed = bare;
+            if (GetParam() == std::string("Live") && bare.find(' ') == std::string::npos)
+                std::transform(bare.begin(), bare.end(), listed.begin(), [](unsigned char ch) { return std::tolower(ch); });
+            if (p.objects[index].kind == 5 && !column.empty())
+                p.tbxextras[p.ctlindex[index]].inptype = static_cast<std::int16_t>(typeOf(listed));
+        }
+    }
+};
+
+// Tells the server's tables as it spells them: without quotes names are folded.
+std::string listedName(const Connection &c, const std::string &table)
+{
+    for (const std::string &name : c.tables)
+        if (std::equal(name.begin(), name.end(), table.begin(), table.end(),
+                       [](unsigned char a, unsigned char b) { return std::tolower(a) == std::tolower(b); }))
+            return name;
+    return {};
+}
+
+TEST_P(GeneratedStatements, RunForEverySamplePage)
+{
+    ASSERT_TRUE(connectTo(GetParam()));
+    int generated = 0;
+    std::vector<std::filesystem::path> files;
+    for (const std::string &name : samples::currentPages())
+        files.push_back(samples::folder() / name);
+    for (const auto &entry : std::filesystem::recursive_directory_iterator(CORVANTA_SOURCE "/samples"))
+        if (entry.path().extension() == ".ods")
+            files.push_back(entry.path());
+    for (const std::filesystem::path &file : files) {
+        Page p;
+        parsePage(p, samples::bytesOf(file));
+        std::string table = connectPart(p, 3);
+        if (table.empty())
+            continue;
+        SCOPED_TRACE(file.string());
+        listColumnsOf(listedName(c, table));
+        run(selectWholeTable(table).text);
+        bindAnew(p);
+        if (BuildWhereClause(p).text == "Where ") // nothing bound: the author completes the statement
+            continue;
+        std::string old = p.SelectStmt; // brackets are another database's quotes
+        replaceAll(old, "[", "\"");
+        replaceAll(old, "]", "\"");
+        SqlText statement = GenerateSelect(p, old);
+        EXPECT_EQ(statement.error, "");
+        run(filled(p, statement.text));
+        ++generated;
+    }
+    EXPECT_GE(generated, 3);
+}
+
+INSTANTIATE_TEST_SUITE_P(Databases, GeneratedStatements, testing::Values("Shop", "Live"),
+                         [](const auto &info) { return std::string(info.param); });
+
+} // namespace
+} // namespace corvanta

@@ -1,0 +1,88 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QTimer>
+#include <QWidget>
+
+#include <deque>
+#include <functional>
+#include <stdexcept>
+#include <string>
+
+namespace corvanta {
+
+// Drives modal windows while the code under test waits in them. Steps are taken in order, each once: as soon as a
+// modal window of the step's name is in front, the step gets it. A step may open a further window, which the
+// next step then drives. Windows that nobody expects, and steps that find no window, fail the test.
+class ModalDriver {
+public:
+    ModalDriver()
+    {
+        QObject::connect(&timer, &QTimer::timeout, &timer, [this] { tick(); });
+        sinceStep.start();
+        timer.start(5);
+    }
+
+    ~ModalDriver() { EXPECT_TRUE(steps.empty()) << "no window " << (steps.empty() ? "" : steps.front().name); }
+
+    ModalDriver(const ModalDriver &) = delete;
+    ModalDriver &operator=(const ModalDriver &) = delete;
+
+    // An empty name stands for any modal window.
+    void expect(const std::string &name, std::function<void(QWidget &)> drive) { steps.push_back({name, drive}); }
+
+    // A control of the window, by its name; a missing one is an error of the test.
+    template <class Control> static Control &find(const QWidget &window, const char *name)
+    {
+        auto *control = window.findChild<Control *>(name);
+        if (!control)
+            throw std::runtime_error(std::string("no control ") + name);
+        return *control;
+    }
+
+private:
+    struct Step {
+        std::string name;
+        std::function<void(QWidget &)> drive;
+    };
+
+    void tick()
+    {
+        QWidget *window = QApplication::activeModalWidget();
+        if (!window || !window->isVisible())
+            return sinceStep.start();
+        if (!steps.empty() && (steps.front().name.empty() || steps.front().name == nameOf(*window))) {
+            const Step step = std::move(steps.front());
+            steps.pop_front();
+            sinceStep.start();
+            run(step, *window);
+        } else if (sinceStep.elapsed() > patience) {
+            ADD_FAILURE() << "left open: " << nameOf(*window) << " " << window->windowTitle().toStdString();
+            sinceStep.start();
+            window->close();
+        }
+    }
+
+    static void run(const Step &step, QWidget &window)
+    {
+        try {
+            step.drive(window);
+        } catch (const std::exception &error) {
+            ADD_FAILURE() << "in " << nameOf(window) << ": " << error.what();
+            window.close();
+        }
+    }
+
+    static std::string nameOf(const QWidget &window) { return window.objectName().toStdString(); }
+
+    static constexpr qint64 patience = 3000; // milliseconds without a step
+
+    std::deque<Step> steps;
+    QElapsedTimer sinceStep;
+    QTimer timer;
+};
+
+} // namespace corvanta

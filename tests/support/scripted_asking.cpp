@@ -1,0 +1,102 @@
+#include "tests/support/scripted_asking.h"
+
+#include "platform/paths.h"
+#include "platform/text.h"
+
+#include <gtest/gtest.h>
+
+#include <utility>
+
+namespace corvanta {
+
+namespace {
+
+constexpr const char *const iconNames[] = {"no icon", "exclamation", "information", "question"};
+
+std::string describe(const MessageBox &box)
+{
+    return "message \"" + box.text + "\" titled \"" + box.title + "\" with " + iconNames[static_cast<int>(box.icon)] +
+           (box.buttons == Buttons::Ok ? ", Ok" : ", Yes No Cancel");
+}
+
+std::string describe(FileDialog::Kind kind)
+{
+    return kind == FileDialog::Kind::Open ? "file dialog Open" : "file dialog Save";
+}
+
+} // namespace
+
+ScriptedAsking::ScriptedAsking() : before(std::exchange(asking(), {}))
+{
+    asking().messageBox = [this](const MessageBox &box) {
+        messages.push_back(box);
+        return next(describe(box)).message;
+    };
+    asking().fileDialog = [this](const FileDialog &dialog) {
+        fileDialogs.push_back(dialog);
+        const auto answer = next(describe(dialog.kind)).text;
+        if (answer)
+            changeDirectory(directoryPart(*answer));
+        return answer;
+    };
+    asking().fontDialog = [this](const FontChoice &font) {
+        fonts.push_back(font);
+        return next("font dialog").font;
+    };
+    asking().colourDialog = [this](std::int32_t colour) {
+        colours.push_back(colour);
+        return next("colour dialog").colour;
+    };
+    asking().askText = [this](const std::string &parameter) {
+        texts.push_back(parameter);
+        return next("text \"" + parameter + "\"").text.value_or("");
+    };
+}
+
+ScriptedAsking::~ScriptedAsking()
+{
+    for (const Question &question : expected)
+        ADD_FAILURE() << "Never asked: " << question.description;
+    asking() = before;
+}
+
+void ScriptedAsking::expectMessage(const std::string &text, const std::string &title, Icon icon, Buttons buttons,
+                                   Answer answer)
+{
+    expected.push_back({.description = describe({text, title, icon, buttons}), .message = answer});
+}
+
+void ScriptedAsking::expectFileDialog(FileDialog::Kind kind, const std::optional<std::string> &answer)
+{
+    expected.push_back({.description = describe(kind), .text = answer});
+}
+
+void ScriptedAsking::expectFontDialog(const std::optional<FontChoice> &answer)
+{
+    expected.push_back({.description = "font dialog", .font = answer});
+}
+
+void ScriptedAsking::expectColourDialog(std::optional<std::int32_t> answer)
+{
+    expected.push_back({.description = "colour dialog", .colour = answer});
+}
+
+void ScriptedAsking::expectText(const std::string &parameter, const std::string &answer)
+{
+    expected.push_back({.description = "text \"" + parameter + "\"", .text = answer});
+}
+
+ScriptedAsking::Question ScriptedAsking::next(const std::string &description)
+{
+    const Question cancelled{.description = description, .message = Answer::Cancel};
+    if (expected.empty()) {
+        ADD_FAILURE() << "Unexpected question: " << description;
+        return cancelled;
+    }
+    const Question question = expected.front();
+    expected.pop_front();
+    EXPECT_EQ(description, question.description) << "another question was expected";
+    return question.description == description ? question : cancelled;
+}
+
+} // namespace corvanta

@@ -1,0 +1,233 @@
+#include "canvas/gestures.h"
+#include "canvas/ui/drop.h"
+#include "tests/windows/canvas_form.h"
+
+#include <QDropEvent>
+#include <QLabel>
+#include <QMimeData>
+
+#include <memory>
+
+using namespace corvanta;
+
+namespace {
+
+class CanvasInputTest : public CanvasForm {
+protected:
+    CanvasInputTest()
+    {
+        form.commands.openProperties = [this] { ++opened; };
+        form.commands.deleteCurrent = [this] { ++deleted; };
+        form.commands.openMenu = [this](char letter) { menus += letter; };
+    }
+
+    bool dropOnPage(const char *tag, const char *payload, QPoint at)
+    {
+        const std::unique_ptr<QMimeData> data(dragData(tag, payload));
+        QDragEnterEvent enter(at, Qt::CopyAction, data.get(), Qt::LeftButton, {});
+        QApplication::sendEvent(&form.pageArea(), &enter);
+        QDropEvent event(at, Qt::CopyAction, data.get(), Qt::LeftButton, {});
+        event.ignore();
+        QApplication::sendEvent(&form.pageArea(), &event);
+        return event.isAccepted();
+    }
+
+    int opened = 0, deleted = 0;
+    std::string menus;
+};
+
+} // namespace
+
+TEST_F(CanvasInputTest, EveryKindIsMovedByExactlyTheDraggedPixels)
+{
+    for (std::int16_t code = firstKind; code <= lastKind; ++code) {
+        const auto kind = static_cast<Kind>(code);
+        const auto index = add(kind, QRect(60, 50, 90, 40));
+        const ControlReference control = controlOfObject(page(), index);
+        QWidget &widget = control.element == 0
+                              ? form.pageArea()
+                              : child((kindRow(kind).prefix + std::to_string(control.element)).c_str());
+        const QPoint inside = control.element == 0 ? QPoint(70, 60) : QPoint(10, 10);
+        drag(widget, inside, QPoint(17, -8));
+        EXPECT_EQ(recordRect(index), QRect(77, 42, 90, 40)) << "kind " << code;
+        if (control.element != 0) {
+            EXPECT_EQ(widget.geometry(), recordRect(index)) << "kind " << code;
+        }
+        EXPECT_TRUE(editing().pagedirty);
+        EXPECT_EQ(editing().curobj, index);
+        EXPECT_TRUE(child("trbox0").isVisible());
+        EXPECT_EQ(child("trbox4").geometry(), QRect(164, 79, 5, 5));
+        deleteObject(index);
+        EXPECT_FALSE(child("trbox0").isVisible());
+    }
+}
+
+TEST_F(CanvasInputTest, TheOutlineMovesWhileTheObjectStaysAndEscEndsIt)
+{
+    add(Kind::Label, QRect(60, 50, 90, 40));
+    QWidget &label = child("lbl1");
+    QTest::mousePress(&label, Qt::LeftButton, {}, QPoint(5, 5));
+    EXPECT_FALSE(child("boxline0").isVisible());
+    QTest::mouseMove(&label, QPoint(25, 15));
+    EXPECT_EQ(child("boxline0").geometry(), QRect(80, 60, 90, 1));
+    EXPECT_EQ(child("boxline3").height(), 40);
+    EXPECT_EQ(label.pos(), QPoint(60, 50));
+    QTest::keyClick(&form, Qt::Key_Escape);
+    EXPECT_FALSE(child("boxline0").isVisible());
+    QTest::mouseRelease(&label, Qt::LeftButton, {}, QPoint(25, 15));
+    EXPECT_EQ(label.pos(), QPoint(60, 50));
+    EXPECT_FALSE(editing().pagedirty);
+}
+
+TEST_F(CanvasInputTest, HandlesResizeAndShowTheirPointers)
+{
+    const auto index = add(Kind::Button, QRect(100, 100, 80, 40));
+    QTest::mouseClick(&child("but1"), Qt::LeftButton);
+    EXPECT_FALSE(editing().pagedirty);
+    EXPECT_EQ(child("trbox3").cursor().shape(), Qt::SizeHorCursor);
+    EXPECT_EQ(child("trbox6").cursor().shape(), Qt::SizeBDiagCursor);
+    drag(child("trbox3"), centre("trbox3"), QPoint(30, 0));
+    EXPECT_EQ(recordRect(index).topLeft(), QPoint(100, 100));
+    EXPECT_NEAR(recordRect(index).width(), 110, 1);
+    drag(child("trbox0"), centre("trbox0"), QPoint(500, 500));
+    EXPECT_EQ(recordRect(index).size(), QSize(4, 4));
+    EXPECT_EQ(child("but1").geometry(), recordRect(index));
+}
+
+TEST_F(CanvasInputTest, CtrlClicksGatherAGroupThatMovesTogether)
+{
+    const auto first = add(Kind::Label, QRect(20, 20, 50, 20));
+    const auto second = add(Kind::TextBox, QRect(100, 60, 50, 24));
+    QTest::mouseClick(&child("lbl1"), Qt::LeftButton);
+    QTest::mouseClick(&child("tbx1"), Qt::LeftButton, Qt::ControlModifier);
+    EXPECT_FALSE(child("trbox0").isVisible());
+    EXPECT_TRUE(child("trboxf0").isVisible());
+    EXPECT_TRUE(child("trboxf15").isVisible());
+    EXPECT_FALSE(has("trboxf16"));
+    drag(child("tbx1"), QPoint(5, 5), QPoint(-300, 10));
+    EXPECT_EQ(recordRect(first), QRect(0, 30, 50, 20)) << "the group stops at the page's edge";
+    EXPECT_EQ(recordRect(second), QRect(80, 70, 50, 24));
+    EXPECT_EQ(child("trboxf0").pos(), QPoint(-2, 28));
+    EXPECT_FALSE(child("multbox").isVisible());
+    QTest::mouseClick(&form.pageArea(), Qt::LeftButton, {}, QPoint(300, 250));
+    EXPECT_FALSE(child("trboxf0").isVisible());
+    EXPECT_EQ(editing().curobj, noObject);
+}
+
+TEST_F(CanvasInputTest, AClickBringsAVisualToTheFrontBelowTheHandles)
+{
+    add(Kind::Button, QRect(20, 20, 100, 50));
+    add(Kind::Label, QRect(40, 30, 100, 50));
+    EXPECT_EQ(form.pageArea().childAt(60, 50)->objectName(), "lbl1");
+    QTest::mouseClick(&child("but1"), Qt::LeftButton, {}, QPoint(3, 3));
+    EXPECT_EQ(form.pageArea().childAt(60, 50)->objectName(), "but1");
+    EXPECT_EQ(form.pageArea().childAt(20, 20)->objectName(), "trbox0");
+    add(Kind::Url, QRect(10, 10, 40, 40));
+    EXPECT_EQ(form.pageArea().childAt(20, 20)->objectName(), "trbox0") << "a new visual stays below them";
+}
+
+TEST_F(CanvasInputTest, DoubleClicksOpenProperties)
+{
+    add(Kind::Label, QRect(20, 20, 50, 20));
+    QTest::mouseClick(&child("lbl1"), Qt::LeftButton);
+    QTest::mouseDClick(&child("lbl1"), Qt::LeftButton);
+    EXPECT_EQ(opened, 1);
+    EXPECT_TRUE(child("trbox0").isVisible());
+    QTest::mouseDClick(&form.pageArea(), Qt::LeftButton, {}, QPoint(300, 250));
+    EXPECT_EQ(opened, 1) << "nothing is current";
+    add(Kind::Image, QRect(200, 100, 80, 80));
+    QTest::mouseDClick(&form.pageArea(), Qt::LeftButton, {}, QPoint(220, 150));
+    EXPECT_EQ(opened, 2);
+}
+
+TEST_F(CanvasInputTest, AButtonTellsADoubleClickByItsTimer)
+{
+    add(Kind::Button, QRect(20, 20, 80, 30));
+    QTest::mouseClick(&child("but1"), Qt::LeftButton);
+    QTest::mouseClick(&child("but1"), Qt::LeftButton);
+    EXPECT_EQ(opened, 1);
+    auto &tmdclk = *form.findChild<QTimer *>("tmdclk");
+    QTest::mouseClick(&child("but1"), Qt::LeftButton);
+    EXPECT_TRUE(tmdclk.isActive());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !tmdclk.isActive(); }, 5000));
+    QTest::mouseClick(&child("but1"), Qt::LeftButton);
+    EXPECT_EQ(opened, 1);
+}
+
+TEST_F(CanvasInputTest, KeysReachTheirCommands)
+{
+    QTest::keyClick(&form.pageArea(), Qt::Key_Delete);
+    EXPECT_EQ(deleted, 0);
+    add(Kind::Label, QRect(20, 20, 50, 20));
+    QTest::mouseClick(&child("lbl1"), Qt::LeftButton);
+    QTest::keyClick(&form.pageArea(), Qt::Key_Delete);
+    EXPECT_EQ(deleted, 1);
+    QTest::keyClick(&form.pageArea(), Qt::Key_Return, Qt::AltModifier);
+    EXPECT_EQ(opened, 1);
+    for (const Qt::Key key : {Qt::Key_F, Qt::Key_P, Qt::Key_O, Qt::Key_H, Qt::Key_X})
+        QTest::keyClick(&form.pageArea(), key, Qt::AltModifier);
+    EXPECT_EQ(menus, "FPOH");
+}
+
+TEST_F(CanvasInputTest, AToolIsDroppedAtThePointAndKeptOnThePage)
+{
+    EXPECT_TRUE(dropOnPage("obj", "1", QPoint(30, 40)));
+    EXPECT_EQ(recordRect(0), QRect(30, 40, 85, 25));
+    EXPECT_EQ(editing().curobj, 0);
+    EXPECT_TRUE(child("trbox0").isVisible());
+    EXPECT_TRUE(editing().pagedirty);
+    dropOnPage("obj", "1", QPoint(390, 295));
+    EXPECT_EQ(recordRect(1), QRect(315, 275, 85, 25));
+    EXPECT_FALSE(dropOnPage("obj", "14", QPoint(10, 10)) && objectCount(page()) > 2);
+    QByteArray field;
+    form.commands.fieldDropped = [&](QPoint at, const QByteArray &payload) {
+        field = payload + QByteArray::number(at.x());
+    };
+    dropOnPage("fld", "Orders\tId", QPoint(7, 8));
+    EXPECT_EQ(field, "Orders\tId7");
+    EXPECT_EQ(droppedRect({0, 0, 500, 20}, {50, 60}, {400, 300}), (Rect{0, 60, 500, 20}));
+}
+
+TEST_F(CanvasInputTest, TheStatusLineShowsTheTextOfThePointedOrCurrentObject)
+{
+    auto &line = child<QLabel>("statusline");
+    page().objects[static_cast<std::size_t>(add(Kind::Label, QRect(20, 20, 50, 20)))].sptext = "First";
+    page().objects[static_cast<std::size_t>(add(Kind::Image, QRect(100, 20, 50, 50)))].sptext = "Second";
+    QTest::mouseMove(&child("lbl1"), QPoint(5, 5));
+    EXPECT_EQ(line.text(), "First");
+    QTest::mouseMove(&form.pageArea(), QPoint(120, 40));
+    EXPECT_EQ(line.text(), "Second");
+    QTest::mouseMove(&form.pageArea(), QPoint(300, 200));
+    EXPECT_EQ(line.text(), "");
+    QTest::mouseClick(&child("lbl1"), Qt::LeftButton);
+    QTest::mouseMove(&form.pageArea(), QPoint(300, 201));
+    EXPECT_EQ(line.text(), "First");
+}
+
+TEST_F(CanvasInputTest, TickersRunOnObjtimerAndPauseWhileTheyArePressed)
+{
+    auto &objtimer = *form.findChild<QTimer *>("objtimer");
+    EXPECT_FALSE(objtimer.isActive());
+    const auto index = add(Kind::Ticker, QRect(20, 20, 150, 26));
+    EXPECT_TRUE(objtimer.isActive());
+    const auto offset = [&] { return static_cast<Visual &>(child("tkr1")).live().textOffset; };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return offset() < -3; }, 5000));
+    QTest::mousePress(&child("tkr1"), Qt::LeftButton, {}, QPoint(5, 5));
+    EXPECT_FALSE(objtimer.isActive());
+    QTest::mouseRelease(&child("tkr1"), Qt::LeftButton, {}, QPoint(5, 5));
+    EXPECT_TRUE(objtimer.isActive());
+    deleteObject(index);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !objtimer.isActive(); }, 5000));
+}
+
+TEST_F(CanvasInputTest, VisualsComeAndGoWithTheirObjects)
+{
+    add(Kind::Button, QRect(20, 20, 80, 30));
+    EXPECT_EQ(child("but1").accessibleName(), "Button Button1");
+    deleteObject(0);
+    EXPECT_FALSE(has("but1") && child("but1").isVisible());
+    add(Kind::Button, QRect(20, 20, 80, 30));
+    EXPECT_TRUE(child("but2").isVisible()) << "numbers are not used again";
+    Editform second; // opened over a page that has objects
+    EXPECT_NE(second.findChild<QWidget *>("but2"), nullptr);
+}

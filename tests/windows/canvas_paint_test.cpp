@@ -1,0 +1,277 @@
+#include "canvas/ui/paint.h"
+#include "document/encoding.h"
+#include "document/objects.h"
+#include "platform/qt/qt_pictures.h"
+
+#include <QImage>
+#include <QPainter>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <memory>
+
+using namespace corvanta;
+
+namespace {
+
+constexpr QRgb backdrop = 0xFFFF00FF, white = 0xFFFFFFFF, black = 0xFF000000, red = 0xFFFF0000;
+constexpr QSize canvasSize(260, 160);
+
+// A page with one new object, painted alone onto a backdrop.
+struct Painted {
+    Page p;
+    std::int16_t index;
+
+    explicit Painted(Kind kind) : index(createVisual(p, encodeInt16(static_cast<std::int16_t>(kind)))) {}
+
+    Element &element() { return *elementOf(p, index); }
+    ObjectRecord &record() { return p.objects[static_cast<std::size_t>(index)]; }
+    QImage image(const QRect &rect, const LiveState &live = {}) const
+    {
+        QImage picture(canvasSize, QImage::Format_RGB32);
+        picture.fill(backdrop);
+        QPainter painter(&picture);
+        paintObject(painter, p, index, rect, live);
+        return picture;
+    }
+};
+
+PicturePtr filledPicture(int width, int height, QRgb colour)
+{
+    auto picture = std::make_shared<QtPicture>();
+    picture->image = QImage(width, height, QImage::Format_RGB32);
+    picture->image.fill(colour);
+    picture->width = width;
+    picture->height = height;
+    return picture;
+}
+
+// The smallest rectangle that holds all pixels that pass.
+QRect extent(const QImage &image, const auto &passes)
+{
+    QRect found;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (passes(image.pixel(x, y)))
+                found |= QRect(x, y, 1, 1);
+    return found;
+}
+
+bool painted(QRgb pixel) { return pixel != backdrop; }
+// Smoothed text has pixels of many shades.
+bool reddish(QRgb pixel) { return qRed(pixel) - std::max(qGreen(pixel), qBlue(pixel)) > 50; }
+bool bluish(QRgb pixel) { return qBlue(pixel) - std::max(qGreen(pixel), qRed(pixel)) > 50; }
+bool greenish(QRgb pixel) { return qGreen(pixel) - std::max(qRed(pixel), qBlue(pixel)) > 50; }
+
+} // namespace
+
+TEST(CanvasPaint, EveryKindFillsItsRectangleAndNothingBesideIt)
+{
+    const QRect place(20, 10, 120, 60);
+    for (std::int16_t code = firstKind; code <= lastKind; ++code) {
+        Painted object(static_cast<Kind>(code));
+        if (code == static_cast<std::int16_t>(Kind::Label) || code == static_cast<std::int16_t>(Kind::Url))
+            object.element().BackStyle = 1;
+        EXPECT_EQ(extent(object.image(place), painted), place) << "kind " << code;
+    }
+}
+
+TEST(CanvasPaint, AnUnknownKindAndAnEmptyRectanglePaintNothing)
+{
+    Painted button(Kind::Button);
+    EXPECT_TRUE(extent(button.image(QRect(5, 5, 0, 10)), painted).isNull());
+    button.record().kind = 14;
+    EXPECT_TRUE(extent(button.image(QRect(5, 5, 50, 20)), painted).isNull());
+}
+
+TEST(CanvasPaint, TheBevelIsAsWideAsStoredButAtMostTen)
+{
+    for (const auto &[stored, shown] : {std::pair{0, 0}, {1, 1}, {4, 4}, {10, 10}, {99, 10}, {-3, 0}}) {
+        Painted button(Kind::Button);
+        button.element().Caption.clear();
+        button.element().BevelWidth = static_cast<std::int16_t>(stored);
+        const QImage image = button.image(QRect(10, 10, 100, 60));
+        const QRgb face = image.pixel(60, 40);
+        int width = 0;
+        while (image.pixel(11 + width, 40) != face)
+            ++width;
+        EXPECT_EQ(width, shown) << stored;
+        if (shown == 0)
+            continue;
+        EXPECT_GT(qGray(image.pixel(11, 40)), qGray(face)) << "light comes from the top left";
+        EXPECT_LT(qGray(image.pixel(108, 40)), qGray(face));
+        EXPECT_NE(image.pixel(109 - shown, 40), face);
+        EXPECT_EQ(image.pixel(108 - shown, 40), face);
+    }
+}
+
+TEST(CanvasPaint, AnAmpersandUnderlinesAndTwoAreOne)
+{
+    const auto ink = [](const char *caption) {
+        Painted button(Kind::Button);
+        button.element().Caption = caption;
+        button.element().font.ForeColor = 0x0000FF;
+        return button.image(QRect(10, 10, 200, 40));
+    };
+    EXPECT_NE(ink("Save"), ink("&Save"));
+    EXPECT_NEAR(extent(ink("Save"), reddish).width(), extent(ink("&Save"), reddish).width(), 2);
+    EXPECT_GT(extent(ink("A&&B"), reddish).width(), extent(ink("AB"), reddish).width());
+    EXPECT_GT(extent(ink("One\r\nTwo"), reddish).height(), extent(ink("One Two"), reddish).height() + 8);
+}
+
+TEST(CanvasPaint, AButtonsPictureStandsAboveItsCaptionOrBesideIt)
+{
+    Painted button(Kind::Button);
+    button.element().picture = filledPicture(16, 16, red);
+    button.element().Caption = "Go";
+    button.element().font.ForeColor = 0xFF0000;
+    const QImage high = button.image(QRect(0, 0, 100, 60));
+    EXPECT_EQ(extent(high, reddish).size(), QSize(16, 16));
+    EXPECT_GT(extent(high, bluish).top(), extent(high, reddish).bottom());
+    EXPECT_NEAR(extent(high, reddish).center().x(), 50, 1);
+    const QImage low = button.image(QRect(0, 0, 100, 25));
+    EXPECT_GT(extent(low, bluish).left(), extent(low, reddish).right());
+    button.element().Caption.clear();
+    EXPECT_EQ(extent(button.image(QRect(0, 0, 100, 60)), reddish), QRect(42, 22, 16, 16));
+}
+
+TEST(CanvasPaint, LabelsAreTransparentBorderedAndAligned)
+{
+    const QRect place(10, 10, 200, 30);
+    Painted label(Kind::Label);
+    label.element().Caption = "Text";
+    label.element().font.ForeColor = 0x0000FF;
+    label.element().BackStyle = 0;
+    EXPECT_EQ(label.image(place).pixel(180, 30), backdrop);
+    label.element().BorderStyle = 1;
+    EXPECT_EQ(label.image(place).pixel(209, 39), black);
+    EXPECT_EQ(label.image(place).pixel(180, 30), backdrop);
+    label.element().BackStyle = 1;
+    label.element().BackColor = 0x00FF00;
+    EXPECT_EQ(label.image(place).pixel(180, 30), 0xFF00FF00);
+    EXPECT_LT(extent(label.image(place), reddish).right(), 60);
+    label.record().alignment = 1;
+    EXPECT_GT(extent(label.image(place), reddish).left(), 160);
+    label.record().alignment = 2;
+    EXPECT_NEAR(extent(label.image(place), reddish).center().x(), 109, 3);
+}
+
+TEST(CanvasPaint, FontStylesAndSizesAreThoseStored)
+{
+    Painted label(Kind::Label);
+    label.element().BackStyle = 0;
+    label.element().Caption = "Hand";
+    const auto ink = [&label] { return extent(label.image(QRect(0, 0, 250, 100)), painted); };
+    const QRect plain = ink();
+    label.element().font.FontUnderline = true;
+    EXPECT_GT(ink().bottom(), plain.bottom());
+    label.element().font = {};
+    label.element().font.FontSize = 24;
+    EXPECT_GT(ink().height(), 2 * plain.height());
+    label.element().font = {};
+    const QImage before = label.image(QRect(0, 0, 250, 100));
+    label.element().font.FontStrikethru = true;
+    EXPECT_NE(label.image(QRect(0, 0, 250, 100)), before);
+}
+
+TEST(CanvasPaint, FieldsShowTheirTextOverTheirBackColour)
+{
+    const QRect place(0, 0, 120, 60);
+    Painted field(Kind::TextBox);
+    field.element().BackColor = 0x00FFFF;
+    field.element().font.ForeColor = 0x0000FF;
+    field.element().Caption = "one two three four five six seven";
+    const QImage single = field.image(place);
+    EXPECT_EQ(single.pixel(60, 5), 0xFFFFFF00);
+    field.record().objflags = multiFlag;
+    EXPECT_GT(extent(field.image(place), reddish).height(), 2 * extent(single, reddish).height());
+    EXPECT_TRUE(extent(field.image(place, {.emptied = true}), reddish).isNull());
+}
+
+TEST(CanvasPaint, ListEntriesStandUnderEachOtherUntilTheListIsEmptied)
+{
+    Painted list(Kind::ListBox);
+    list.element().font.ForeColor = 0x0000FF;
+    auto &entries = list.p.lbxextras[1];
+    entries = {{"First", ""}};
+    const QRect one = extent(list.image(QRect(0, 0, 120, 80)), reddish);
+    entries = {{"First", ""}, {"Second", ""}, {"Third", ""}};
+    EXPECT_GT(extent(list.image(QRect(0, 0, 120, 80)), reddish).height(), 3 * one.height());
+    EXPECT_TRUE(extent(list.image(QRect(0, 0, 120, 80), {.emptied = true}), reddish).isNull());
+    entries.assign(51, {"Entry", ""});
+    EXPECT_LT(extent(list.image(QRect(0, 0, 120, 80)), reddish).bottom(), 78);
+}
+
+TEST(CanvasPaint, GridColumnsHaveTheirWidthInPixels)
+{
+    Painted grid(Kind::Grid);
+    grid.p.gridcolumns = {{"Name\tT.Name", 750}, {"City\tT.City", 1500}, {}};
+    const QImage image = grid.image(QRect(0, 0, 250, 100));
+    const int row = 30; // below the header: the lines between the columns
+    for (const int line : {2 + 50 - 1, 2 + 150 - 1}) {
+        EXPECT_NE(image.pixel(line, row), white) << line;
+        EXPECT_EQ(image.pixel(line + 1, row), white);
+        EXPECT_EQ(image.pixel(line - 1, row), white);
+    }
+    EXPECT_EQ(image.pixel(200, 8), white) << "no header beyond the last column";
+}
+
+TEST(CanvasPaint, ImagesAreScaledIntoTheirRectangle)
+{
+    Painted object(Kind::Image);
+    const QRect place(10, 20, 80, 50);
+    EXPECT_EQ(object.image(place).pixel(89, 69), black) << "without a picture: a rectangle";
+    object.p.imgpictures[1].picture = filledPicture(8, 8, red);
+    EXPECT_EQ(extent(object.image(place), reddish), place);
+}
+
+TEST(CanvasPaint, ATickersTextMovesWithinItsStrip)
+{
+    Painted ticker(Kind::Ticker);
+    ticker.element().font.ForeColor = 0x0000FF;
+    ticker.element().Caption = "News";
+    const QRect place(10, 10, 150, 26);
+    const QRect resting = extent(ticker.image(place), reddish);
+    EXPECT_EQ(extent(ticker.image(place, {.textOffset = 40}), reddish), resting.translated(40, 0));
+    EXPECT_TRUE(extent(ticker.image(place, {.textOffset = 150}), reddish).isNull());
+    EXPECT_LE(resting.width(), tickerTextWidth(ticker.element()));
+}
+
+TEST(CanvasPaint, AnAnimationShowsItsFirstFrameOrTheOneThatPlays)
+{
+    Painted animation(Kind::Animation);
+    const QRect place(0, 0, 40, 40);
+    Frame first, second;
+    first.picture = filledPicture(40, 40, red);
+    second.picture = filledPicture(40, 40, 0xFF00FF00);
+    storeFrames(animation.p, animation.index, {first, second});
+    EXPECT_EQ(extent(animation.image(place), reddish), QRect(1, 1, 38, 38)) << "inside its border";
+    const QImage playing = animation.image(place, {.frame = 2, .bordered = false});
+    EXPECT_EQ(extent(playing, greenish), place);
+}
+
+TEST(CanvasPaint, PageDrawnObjectsLieBelowControlsAndHotSpotsShowWhatIsBelow)
+{
+    Page p;
+    p.bkgwd = 200;
+    p.bkght = 100;
+    p.bkgcol = 0x00FF00;
+    const auto button = createVisual(p, encodeInt16(1));
+    const auto image = createVisual(p, encodeInt16(6));
+    p.imgpictures[1].picture = filledPicture(4, 4, red);
+    p.objects[static_cast<std::size_t>(image)].srcfile = "x.bmp";
+    const ObjectRecord &o = p.objects[static_cast<std::size_t>(button)];
+    QImage picture(200, 100, QImage::Format_RGB32);
+    QPainter painter(&picture);
+    paintPageBackground(painter, p, QRect(0, 0, 200, 100));
+    EXPECT_EQ(picture.pixel(0, 0), 0xFF00FF00);
+    p.objects[static_cast<std::size_t>(image)].srcfile.clear();
+    paintPage(painter, p);
+    EXPECT_NE(picture.pixel(o.pleft + 5, o.ptop + 5), red);
+    EXPECT_EQ(picture.pixel(55, 28), red);
+    createVisual(p, encodeInt16(2));
+    paintPage(painter, p);
+    EXPECT_NE(picture.pixel(75, 40), red) << "the area is tinted";
+    EXPECT_GT(qRed(picture.pixel(75, 40)), 150) << "and translucent";
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "tools/json_values.h"
+
+// Action texts in JSON: the code, the kind's parameters (or a list's entries) and, where these alone would
+// not give the same bytes back, the whole text as hexadecimal "raw". What "raw" says holds.
+namespace corvanta {
+
+Json actionJson(std::string_view text);
+
+// Throws JsonError.
+std::string actionFromJson(const Json &value, const std::string &path);
+
+} // namespace corvanta

@@ -1,0 +1,52 @@
+#include "converter/ods2hts.h"
+#include "platform/codepage.h"
+#include "platform/paths.h"
+
+#include <CLI/CLI.hpp>
+
+#include <cstdlib>
+#include <iostream>
+#include <string>
+#include <vector>
+
+namespace {
+
+// The user's language as the system's programs find it.
+std::string locale()
+{
+    for (const char *variable : {"LC_ALL", "LC_CTYPE", "LANG"})
+        if (const char *value = std::getenv(variable); value && *value)
+            return value;
+    return {};
+}
+
+bool convert(const std::string &file)
+{
+    const std::string path = corvanta::drivePath(file);
+    if (!path.empty() && ConvertOdsHts(path.c_str()) != 0)
+        return true;
+    std::cerr << "ods2hts: Error converting " << file << '\n';
+    return false;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    CLI::App app("Writes the HTML template of each page file beside it, with the extension \"hts\".", "ods2hts");
+    app.set_version_flag("--version", CORVANTA_VERSION);
+    int codePage = 0;
+    std::vector<std::string> files;
+    app.add_option("--codepage", codePage, "Windows code page of the pages' texts; by default the language's");
+    app.add_option("FILE", files, "Page files")->required();
+    CLI11_PARSE(app, argc, argv);
+
+    if (!corvanta::setCodePage(codePage != 0 ? codePage : corvanta::codePageOfLocale(locale()))) {
+        std::cerr << "ods2hts: unknown code page " << codePage << '\n';
+        return 1;
+    }
+    bool all = true;
+    for (const std::string &file : files)
+        all = convert(file) && all;
+    return all ? 0 : 1;
+}

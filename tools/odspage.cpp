@@ -1,0 +1,5 @@
+#include "tools/odspage_commands.h"
+
+#include <iostream>
+
+int main(int argc, char **argv) { return corvanta::runOdspage(argc, argv, std::cout, std::cerr); }

@@ -1,0 +1,99 @@
+#include "document/encoding.h"
+#include "document/object_file.h"
+#include "document/page_file.h"
+#include "platform/codepage.h"
+#include "platform/host_files.h"
+#include "platform/text.h"
+#include "tools/json_page.h"
+#include "tools/odspage_commands.h"
+
+#include <memory>
+
+namespace corvanta {
+
+namespace {
+
+// What a file holds, and the bytes that saving it would give.
+struct Reading {
+    Json json;
+    std::string saved;
+    std::int16_t version = currentVersion;
+};
+
+// By the name; where that does not tell, by the first value: an object file starts with a small version, a
+// page file with the length of its header.
+bool isObjectFile(const std::string &file, std::string_view bytes)
+{
+    const std::string extension = std::filesystem::path(file).extension().string();
+    if (sameText(extension, ".hdo"))
+        return true;
+    return !sameText(extension, ".ods") && decodeInt16(bytes) <= currentVersion;
+}
+
+Reading readPageFile(std::string_view bytes)
+{
+    Page p;
+    parsePage(p, bytes);
+    return {pageJson(p), serialisePage(p), p.pgversion};
+}
+
+Reading readObjectFile(std::string_view bytes)
+{
+    Page p;
+    std::string_view front = bytes;
+    const std::int16_t version = decodeInt16(front);
+    appendObjectFile(p, bytes);
+    return {objectFileJson(p, version), objectFileText(p, 0), version};
+}
+
+std::string readingFailure(const FileContent &content)
+{
+    if (content.missing)
+        return "no such file";
+    if (content.tooLarge)
+        return "more than " + std::to_string(fileLimit) + " bytes";
+    if (!content.error.empty())
+        return toUtf8(content.error);
+    return content.bytes.empty() ? "the file is empty" : "";
+}
+
+void warnOfChange(ToolRun &run, const std::string &file, const Reading &reading)
+{
+    complain(run, file, "warning: saving would change this file");
+    if (reading.version != currentVersion)
+        complain(run, file,
+                 "warning: its format version is " + std::to_string(reading.version) + ", saved as " +
+                     std::to_string(currentVersion));
+}
+
+int dump(ToolRun &run, const std::string &file)
+{
+    const FileContent content = readHostFile(file, fileLimit);
+    const std::string failure = readingFailure(content);
+    if (!failure.empty()) {
+        complain(run, file, failure);
+        return 1;
+    }
+    const Reading reading =
+        isObjectFile(file, content.bytes) ? readObjectFile(content.bytes) : readPageFile(content.bytes);
+    run.out << printJson(reading.json) << std::flush;
+    if (!run.out) {
+        complain(run, file, "the output could not be written");
+        return 1;
+    }
+    if (reading.saved != content.bytes)
+        warnOfChange(run, file, reading);
+    return 0;
+}
+
+} // namespace
+
+void addDumpCommand(CLI::App &app, ToolRun &run)
+{
+    CLI::App *command = app.add_subcommand("dump", "Print a page file or an object file as JSON");
+    const auto file = std::make_shared<std::string>();
+    command->add_option("FILE", *file, "page file (.ods) or object file (.hdo)")->required();
+    command->callback([&run, file] { run.exitCode = dump(run, *file); });
+}
+
+} // namespace corvanta

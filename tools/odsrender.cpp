@@ -1,0 +1,108 @@
+#include "canvas/ui/paint.h"
+#include "document/page_file.h"
+#include "platform/codepage.h"
+#include "platform/files.h"
+#include "platform/paths.h"
+#include "platform/qt/fonts.h"
+#include "platform/qt/qt_pictures.h"
+#include "platform/text.h"
+
+#include <CLI/CLI.hpp>
+#include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
+#include <QString>
+
+#include <cstdio>
+#include <filesystem>
+#include <string>
+
+// A page as a picture, without a display.
+
+namespace {
+
+using namespace corvanta;
+
+constexpr int failed = 1, wrongUsage = 2;
+
+struct Job {
+    std::string input, output;
+    int codePage = 1252;
+};
+
+int fail(const std::string &file, const std::string &reason)
+{
+    std::fprintf(stderr, "odsrender: %s: %s\n", file.c_str(), reason.c_str());
+    return failed;
+}
+
+// Why the file cannot be opened as a page; empty when it can.
+std::string obstacle(const std::string &path)
+{
+    const FileContent content = readFile(path, fileLimit);
+    if (path.empty() || content.missing)
+        return "no such file";
+    if (content.tooLarge)
+        return "more than " + std::to_string(fileLimit) + " bytes";
+    if (!content.error.empty())
+        return toUtf8(content.error);
+    return content.bytes.empty() ? "the file is empty" : "";
+}
+
+// The page without a size of its own takes that of a new canvas window.
+QImage renderedPage(Page &p)
+{
+    if (p.bkgwd <= 0)
+        p.bkgwd = newPageWidth;
+    if (p.bkght <= 0)
+        p.bkght = newPageHeight;
+    QImage image(p.bkgwd, p.bkght, QImage::Format_RGB32);
+    QPainter painter(&image);
+    paintPage(painter, p);
+    return image;
+}
+
+int render(const Job &job)
+{
+    const std::string path = drivePath(std::filesystem::absolute(job.input));
+    if (const std::string reason = obstacle(path); !reason.empty())
+        return fail(job.input, reason);
+    editing().curdir = directoryPart(path);
+    openPage(path);
+    if (!renderedPage(page()).save(QString::fromStdString(job.output), "PNG"))
+        return fail(job.output, "cannot be written");
+    return 0;
+}
+
+// What the toolkit remarks about the desktop says nothing about the page.
+void tellOnlyFailures(QtMsgType type, const QMessageLogContext &, const QString &text)
+{
+    if (type == QtCriticalMsg || type == QtFatalMsg)
+        std::fprintf(stderr, "odsrender: %s\n", qPrintable(text));
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    Job job;
+    CLI::App usage("Renders a page file as a PNG picture.", "odsrender");
+    usage.add_option("FILE.ods", job.input, "the page file")->required();
+    usage.add_option("OUT.png", job.output, "the picture to write")->required();
+    usage.add_option("--codepage", job.codePage, "the code page of the file's texts (874, 1250 to 1258)")
+        ->capture_default_str()
+        ->check(CLI::Validator(
+            [](const std::string &number) { return setCodePage(std::atoi(number.c_str())) ? "" : "unknown code page"; },
+            "NUMBER"));
+    try {
+        usage.parse(argc, argv);
+    } catch (const CLI::ParseError &error) {
+        return usage.exit(error) == 0 ? 0 : wrongUsage;
+    }
+    setenv("QT_QPA_PLATFORM", "offscreen", 0);
+    qInstallMessageHandler(tellOnlyFailures);
+    QGuiApplication application(argc, argv);
+    registerFontSubstitutions();
+    installPictureLoader();
+    return render(job);
+}
