@@ -34,7 +34,7 @@ template <class Entry> struct Listing {
 
 struct Library {
     OdbcHandle environment{nullptr, nullptr};
-    std::vector<OpenConnection> connections; // released before the environment
+    std::vector<OpenConnection> connections;
     Listing<std::string> sources;
     Listing<OdbcTable> tables;
     Listing<OdbcColumn> columns;
@@ -135,11 +135,10 @@ std::int32_t GetFirstColumn(const char *dsn, const char *user, const char *, con
     std::string wanted = table;
     // A listed table is asked for as the driver spelt it: its name may have been cut or hold characters that
     // the code page lacks.
-    auto listed = std::find_if(connection->tables.begin(), connection->tables.end(), [&](const OdbcTable &t) {
-        return t.name.substr(0, nameBufferSize - 1) == wanted;
-    });
-    library().columns.start(odbcColumns(connection->handle.get(),
-                                        listed == connection->tables.end() ? odbcTableNamed(wanted) : *listed));
+    auto listed = std::find_if(connection->tables.begin(), connection->tables.end(),
+                               [&](const OdbcTable &t) { return t.name.substr(0, nameBufferSize - 1) == wanted; });
+    library().columns.start(
+        odbcColumns(connection->handle.get(), listed == connection->tables.end() ? odbcTableNamed(wanted) : *listed));
     return GetNextColumn(name, type, length);
 }
 
@@ -155,6 +154,7 @@ std::int32_t GetNextColumn(char *name, std::int16_t &type, std::int16_t &length)
 
 std::int32_t OdbcNameEndDll()
 {
+    library().connections.clear(); // before their environment
     library() = Library{};
     return success;
 }

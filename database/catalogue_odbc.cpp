@@ -28,12 +28,13 @@ SQLWCHAR *odbcText(const std::u16string &text)
     return const_cast<SQLWCHAR *>(reinterpret_cast<const SQLWCHAR *>(text.c_str()));
 }
 
-// The driver manager converts for drivers without Unicode by the character set in force during the connect.
+// The driver manager converts for drivers without Unicode by the character set that is in force when the
+// connection's handle is made.
 class Utf8Locale {
     locale_t own = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
     locale_t before = own ? uselocale(own) : nullptr;
 
-  public:
+public:
     Utf8Locale() = default;
     Utf8Locale(const Utf8Locale &) = delete;
     Utf8Locale &operator=(const Utf8Locale &) = delete;
@@ -188,7 +189,7 @@ SQLINTEGER numberAt(SQLHSTMT statement, SQLUSMALLINT column)
 // Tables and views of whatever sort; temporary, system and auxiliary ones have other types.
 bool isListed(const std::string &type, const std::string &name, bool sqlite)
 {
-    bool table = type.ends_with("TABLE") || type.ends_with("VIEW") || type == "MATVIEW";
+    bool table = type.ends_with("TABLE") || type.ends_with("VIEW"); // MATVIEW, too
     return table && !type.starts_with("SYSTEM") && !(sqlite && name.starts_with("sqlite_"));
 }
 
@@ -219,10 +220,7 @@ std::int16_t columnType(SQLINTEGER code, const std::string &typeName)
     }
 }
 
-std::int16_t columnLength(SQLLEN size)
-{
-    return static_cast<std::int16_t>(std::clamp<SQLLEN>(size, 0, longestColumn));
-}
+std::int16_t columnLength(SQLLEN size) { return static_cast<std::int16_t>(std::clamp<SQLLEN>(size, 0, longestColumn)); }
 
 bool isSqlite(SQLHDBC connection) { return connectionText(connection, SQL_DBMS_NAME).starts_with(u"SQLite"); }
 
@@ -290,9 +288,9 @@ std::vector<std::string> odbcSources(void *environment)
     return names;
 }
 
-OdbcHandle connectOdbc(void *environment, const std::string &dsn, const std::string &user,
-                       const std::string &password)
+OdbcHandle connectOdbc(void *environment, const std::string &dsn, const std::string &user, const std::string &password)
 {
+    Utf8Locale utf8;
     OdbcHandle connection = newHandle(SQL_HANDLE_DBC, environment, releaseConnection);
     if (!connection)
         return connection;
@@ -303,10 +301,10 @@ OdbcHandle connectOdbc(void *environment, const std::string &dsn, const std::str
         return connection;
     }
     SQLSetConnectAttrW(connection.get(), SQL_ATTR_LOGIN_TIMEOUT, reinterpret_cast<SQLPOINTER>(loginSeconds), 0);
-    Utf8Locale utf8;
-    if (!SQL_SUCCEEDED(SQLConnectW(connection.get(), odbcText(padded(widened(toUtf8(dsn)))), SQL_NTS,
-                                   odbcText(padded(toUtf16(user))), SQL_NTS, odbcText(padded(toUtf16(password))),
-                                   SQL_NTS))) {
+    std::u16string source = padded(widened(toUtf8(dsn)));
+    std::u16string userText = padded(toUtf16(user)), passwordText = padded(toUtf16(password));
+    if (!SQL_SUCCEEDED(SQLConnectW(connection.get(), odbcText(source), SQL_NTS, odbcText(userText), SQL_NTS,
+                                   odbcText(passwordText), SQL_NTS))) {
         reportFailure(connection.get(), password);
         connection.reset();
     }
@@ -336,8 +334,9 @@ std::vector<OdbcColumn> odbcColumns(void *connection, const OdbcTable &table)
     std::vector<OdbcColumn> columns;
     OdbcHandle statement = newStatement(connection);
     std::u16string schema = asPattern(connection, table.schema), name = asPattern(connection, table.driverName);
-    if (!statement || !SQL_SUCCEEDED(SQLColumnsW(statement.get(), nullptr, 0, schema.empty() ? nullptr : odbcText(schema),
-                                                 SQL_NTS, odbcText(name), SQL_NTS, nullptr, 0)))
+    if (!statement ||
+        !SQL_SUCCEEDED(SQLColumnsW(statement.get(), nullptr, 0, schema.empty() ? nullptr : odbcText(schema), SQL_NTS,
+                                   odbcText(name), SQL_NTS, nullptr, 0)))
         return columns;
     while (SQL_SUCCEEDED(SQLFetch(statement.get()))) {
         OdbcColumn column;

@@ -26,8 +26,7 @@ OdbcHandle openOdbc(); // empty on failure
 std::vector<std::string> odbcSources(void *environment);
 
 // Empty on failure, with the reason on standard error.
-OdbcHandle connectOdbc(void *environment, const std::string &dsn, const std::string &user,
-                       const std::string &password);
+OdbcHandle connectOdbc(void *environment, const std::string &dsn, const std::string &user, const std::string &password);
 
 std::vector<OdbcTable> odbcTables(void *connection);
 std::vector<OdbcColumn> odbcColumns(void *connection, const OdbcTable &table);

@@ -60,8 +60,8 @@ void ListTables(Connection &c)
 {
     c.tables.clear();
     char name[nameBufferSize];
-    for (std::int32_t status = GetFirstTableName(c.source.c_str(), c.user.c_str(), c.password.c_str(), name); status == 0;
-         status = GetNextTableName(name))
+    for (std::int32_t status = GetFirstTableName(c.source.c_str(), c.user.c_str(), c.password.c_str(), name);
+         status == 0; status = GetNextTableName(name))
         c.tables.emplace_back(name);
 }
 

@@ -109,8 +109,8 @@ SqlText BuildCondition(const Page &p, std::int16_t index)
     if (object.ctlname.empty())
         return {{}, "Object attached to '" + object.datacol + "' has no name."};
     ValueClass value = valueClass(p, index);
-    std::string condition = quotedIfBlank(object.datacol) + " " + operatorText(object.condobjname, value) +
-                            valueText(object, value);
+    std::string condition =
+        quotedIfBlank(object.datacol) + " " + operatorText(object.condobjname, value) + valueText(object, value);
     if (value == ValueClass::Number)
         condition = "(" + condition + " Or " + placeholder(object.ctlname) + " is Null)";
     return {condition, {}};

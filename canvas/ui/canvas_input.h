@@ -15,8 +15,6 @@ class QMouseEvent;
 
 namespace corvanta {
 
-class Visual;
-
 // What the canvas asks of the rest of the program. Empty members are not called.
 struct EditformCommands {
     std::function<void(char)> openMenu;   // 'F', 'P', 'O' or 'H': a menu of the main window

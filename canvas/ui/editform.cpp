@@ -76,8 +76,9 @@ void Editform::applyPageLayout()
 void Editform::resizeToPage()
 {
     const Page &p = page();
-    const QSize wanted = QSize(p.bkgwd, p.bkght).boundedTo(screenRoom()) + QSize(0, frameHeight());
-    if (size() == wanted)
+    const QSize pageSize(p.bkgwd, p.bkght);
+    const QSize wanted = pageSize.boundedTo(screenRoom()) + QSize(0, frameHeight());
+    if (pageSize.isEmpty() || size() == wanted)
         return;
     if (!settling.isActive())
         superseded.clear();
@@ -124,15 +125,13 @@ QSize Editform::screenRoom() const
 void Editform::takeMissingSize()
 {
     Page &p = page();
-    fresh = fresh && (p.bkgwd <= 0 || p.bkght <= 0);
-    if (p.bkgwd <= 0) {
+    if (!isVisible() || (p.bkgwd > 0 && p.bkght > 0))
+        return;
+    if (p.bkgwd <= 0)
         p.bkgwd = toPixels(innerSize().width());
-        fresh = true;
-    }
-    if (p.bkght <= 0) {
+    if (p.bkght <= 0)
         p.bkght = toPixels(std::max(1, innerSize().height()));
-        fresh = true;
-    }
+    unasked = {p.bkgwd, p.bkght};
 }
 
 // What does not fit on the screen is larger than its window; such a page keeps that side when the window shrinks.
@@ -144,14 +143,15 @@ void Editform::takeSizeFromWindow()
     };
     const std::int16_t width = side(p.bkgwd, innerSize().width(), screenRoom().width());
     const std::int16_t height = side(p.bkght, innerSize().height(), screenRoom().height());
-    if (width == p.bkgwd && height == p.bkght)
+    const QSize before(p.bkgwd, p.bkght);
+    if (before == QSize(width, height))
         return;
     p.bkgwd = width;
     p.bkght = height;
     area->resize(width, height);
-    if (!fresh)
+    if (before != unasked || !editing().filetag.empty()) // the first size of a new page is no edit
         pageEdited();
-    fresh = false;
+    unasked = {};
 }
 
 void Editform::arrange()

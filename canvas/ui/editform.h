@@ -69,7 +69,7 @@ private:
     QTimer settling;         // runs while the window system may still answer to a size of ours
     QList<QSize> superseded; // sizes that this one has taken the place of
     bool inLayout = false;   // resizes are of the program's making
-    bool fresh = true;       // the next resize is the first one that follows a load
+    QSize unasked;           // page size that a new page took from the window
 };
 
 } // namespace corvanta

@@ -4,6 +4,7 @@
 #include "platform/qt/text.h"
 
 #include <QPainter>
+#include <QPolygon>
 #include <QString>
 
 #include <algorithm>

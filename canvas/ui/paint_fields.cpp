@@ -3,7 +3,6 @@
 #include "platform/qt/colours.h"
 
 #include <QPainter>
-#include <QPolygon>
 #include <QString>
 
 #include <algorithm>
@@ -46,7 +45,8 @@ void paintLabel(QPainter &painter, const Element &label, std::int16_t alignment,
 {
     if (label.BackStyle != 0)
         painter.fillRect(rect, toQColor(label.BackColor));
-    const QRect inner = label.BorderStyle == 1 ? paintFrame(painter, rect, Qt::black) : rect;
+    const bool bordered = label.BorderStyle == 1;
+    const QRect inner = bordered ? paintFrame(painter, rect, Qt::black).adjusted(textMargin, 0, -textMargin, 0) : rect;
     setTextStyle(painter, label.font);
     painter.setClipRect(inner, Qt::IntersectClip);
     painter.drawText(inner, alignmentFlag(alignment) | Qt::AlignTop | Qt::TextWordWrap | Qt::TextShowMnemonic,

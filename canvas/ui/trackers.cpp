@@ -31,6 +31,7 @@ QWidget *newLine(QWidget &area, int n)
     QPalette colours = line->palette();
     colours.setColor(QPalette::Window, outlineColour);
     line->setPalette(colours);
+    line->setBackgroundRole(QPalette::Window);
     line->setAutoFillBackground(true);
     line->hide();
     return line;

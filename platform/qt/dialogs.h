@@ -87,7 +87,7 @@ void addWidgetRow(Fields &fields, QWidget &widget, const char *name, const QStri
 QPushButton *addButtonBeside(Fields &fields, const char *name, const QString &caption);
 QLabel *addHintBeside(Fields &fields, const QString &text);
 
-// A field together with its label.
+// A field together with its label; what stands beside it is switched on its own.
 QLabel *labelOf(const QWidget &field); // nullptr without a label
 void setFieldEnabled(QWidget &field, bool enabled);
 void setFieldVisible(QWidget &field, bool visible);

@@ -4,7 +4,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
-#include <QIntValidator>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -12,6 +11,9 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
+#include <QValidator>
+
+#include <algorithm>
 
 namespace corvanta {
 
@@ -76,6 +78,23 @@ void addControl(Fields &fields, QWidget &control, const char *name, const QStrin
     }
     addBox(fields, control, place, alignment);
 }
+
+// Lets no key in that would make the number too large; the toolkit's own validator allows it while typing.
+class WholeNumber : public QValidator {
+public:
+    WholeNumber(int mostAllowed, QObject *parent) : QValidator(parent), most(mostAllowed) {}
+
+    State validate(QString &text, int &) const override
+    {
+        const bool digits = std::all_of(text.cbegin(), text.cend(), [](QChar c) { return c >= '0' && c <= '9'; });
+        if (!digits || text.toLongLong() > most || text.size() > 9)
+            return Invalid;
+        return text.isEmpty() ? Intermediate : Acceptable;
+    }
+
+private:
+    int most;
+};
 
 // Lets a frame with a list or a text area grow with its dialog.
 void letGrow(const Fields &fields)
@@ -153,11 +172,7 @@ QLineEdit *addNumberRow(Fields &fields, const char *name, const QString &label)
 QLineEdit *addWholeNumberRow(Fields &fields, const char *name, const QString &label, int most)
 {
     QLineEdit *field = addNumberRow(fields, name, label);
-    auto *validator = new QIntValidator(0, most, field);
-    QLocale plain = QLocale::c();
-    plain.setNumberOptions(QLocale::RejectGroupSeparator);
-    validator->setLocale(plain);
-    field->setValidator(validator);
+    field->setValidator(new WholeNumber(most, field));
     return field;
 }
 

@@ -33,10 +33,12 @@ bool isDirectory(const std::filesystem::path &host)
 
 bool isDrivePath(const QString &typed) { return typed.size() > 1 && typed[0].isLetter() && typed[1] == ':'; }
 
+bool isInCodePage(const QString &text) { return toQString(toBytes(text)) == text; }
+
 // The host path of a typed name: the file of exactly that name, else the one that differs in letter case only.
 std::filesystem::path typedPath(QString typed, const QDir &folder)
 {
-    if (isDrivePath(typed))
+    if (isDrivePath(typed) && isInCodePage(typed))
         return hostPath(toBytes(typed));
     typed.replace('\\', '/');
     const std::filesystem::path host = toPath(QDir::cleanPath(folder.absoluteFilePath(typed)));
@@ -44,7 +46,7 @@ std::filesystem::path typedPath(QString typed, const QDir &folder)
     return path.empty() ? host : hostPath(path);
 }
 
-// A file whose name the code page lacks, or outside every drive, has no drive path.
+// A file outside every drive has no drive path.
 bool hasDrivePath(const std::filesystem::path &host)
 {
     const std::string path = drivePath(host);

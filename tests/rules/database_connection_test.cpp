@@ -95,7 +95,6 @@ TEST_F(DataSource, GivesTheColumnThatIsDragged)
     EXPECT_FALSE(columnAt(c, 6));
 }
 
-
 Page dropOf(Kind kind, const DroppedColumn &column)
 {
     Page p;

@@ -56,7 +56,7 @@ protected:
 TEST_F(DatabaseLive, ListsTablesAndViewsOfTheServer)
 {
     for (const char *source : {"Live", "Live ANSI"}) {
-        ASSERT_TRUE(connectTo(source)) << source;
+        ASSERT_TRUE(SelectDataSource(c, std::string(source) + "\treader\treader")) << source;
         for (const char *name : {"customers", "h\xE4ndler", "Order Lines", "Open Orders", "pricelist", "standing"})
             EXPECT_EQ(std::count(c.tables.begin(), c.tables.end(), name), 1) << source << " " << name;
         EXPECT_EQ(std::count(c.tables.begin(), c.tables.end(), "pg_class"), 0);
@@ -74,11 +74,12 @@ TEST_F(DatabaseLive, MapsTheTypesOfTheServer)
 {
     ASSERT_TRUE(connectTo("Live"));
     listColumnsOf("types");
-    std::map<std::string, int> expected{
-        {"a_serial", 1}, {"a_smallint", 1},  {"a_bigint", 1},  {"a_real", 2},      {"a_double", 2},    {"a_numeric", 6},
-        {"a_money", 5},  {"a_decimal", 6},   {"a_date", 3},    {"a_timestamp", 3}, {"a_timestamptz", 3}, {"a_time", 4},
-        {"a_char", 0},   {"a_varchar", 0},   {"a_text", 0},    {"a_boolean", 0},   {"a_bytea", 0},     {"a_uuid", 0},
-        {"a_json", 0},   {"an_interval", 0}, {"an_array", 0}};
+    std::map<std::string, int> expected{{"a_serial", 1}, {"a_smallint", 1},  {"a_bigint", 1},      {"a_real", 2},
+                                        {"a_double", 2}, {"a_numeric", 6},   {"a_money", 5},       {"a_decimal", 6},
+                                        {"a_date", 3},   {"a_timestamp", 3}, {"a_timestamptz", 3}, {"a_time", 4},
+                                        {"a_char", 0},   {"a_varchar", 0},   {"a_text", 0},        {"a_boolean", 0},
+                                        {"a_bytea", 0},  {"a_uuid", 0},      {"a_json", 0},        {"an_interval", 0},
+                                        {"an_array", 0}};
     EXPECT_EQ(c.columns.size(), expected.size());
     for (const auto &[name, type] : expected)
         EXPECT_EQ(typeOf(name), type) << name;
@@ -110,6 +111,18 @@ TEST_F(DatabaseLive, GivesUpOnAServerThatNeverAnswers)
     testing::internal::CaptureStderr();
     EXPECT_NE(ConnectDsn("Silent", "ann", "secret"), 0); // ends at all: the log-in time-out
     EXPECT_EQ(testing::internal::GetCapturedStderr().find("secret"), std::string::npos);
+}
+
+// For the leak check that ends a run with sanitizers.
+TEST_F(DatabaseLive, ConnectsAThousandTimes)
+{
+    for (int round = 0; round < 1000; ++round) {
+        ASSERT_TRUE(connectTo("Shop"));
+        listColumnsOf("Orders");
+        ASSERT_EQ(c.columns.size(), 6U);
+        ASSERT_EQ(DisconnectDsn("Shop", testsources::serverUser), 0);
+        c = {};
+    }
 }
 
 void replaceAll(std::string &text, const std::string &what, const std::string &by)
@@ -172,9 +185,11 @@ protected:
             DatabaseLive::SetUp();
     }
 
-    void run(const std::string &statement)
+    void run(std::string statement)
     {
         bool server = GetParam() != std::string("Shop");
+        if (server) // its driver wants a blank in the date escape
+            replaceAll(statement, "{d'", "{d '");
         EXPECT_EQ(failureOf(GetParam(), server ? "reader" : "", server ? "reader" : "", toUtf8(statement)), "")
             << statement;
     }
@@ -190,7 +205,8 @@ protected:
                 column = bare;
             std::string listed = bare;
             if (GetParam() == std::string("Live") && bare.find(' ') == std::string::npos)
-                std::transform(bare.begin(), bare.end(), listed.begin(), [](unsigned char ch) { return std::tolower(ch); });
+                std::transform(bare.begin(), bare.end(), listed.begin(),
+                               [](unsigned char ch) { return std::tolower(ch); });
             if (p.objects[index].kind == 5 && !column.empty())
                 p.tbxextras[p.ctlindex[index]].inptype = static_cast<std::int16_t>(typeOf(listed));
         }
@@ -241,7 +257,7 @@ TEST_P(GeneratedStatements, RunForEverySamplePage)
 }
 
 INSTANTIATE_TEST_SUITE_P(Databases, GeneratedStatements, testing::Values("Shop", "Live"),
-                         [](const auto &info) { return std::string(info.param); });
+                         [](const auto &source) { return std::string(source.param); });
 
 } // namespace
 } // namespace corvanta

@@ -62,26 +62,27 @@ std::filesystem::path makeSources()
     if (!mkdtemp(name.data()))
         ADD_FAILURE() << "no folder for the data sources";
     std::filesystem::path folder = name;
-    std::ofstream(folder / "types.sql")
-        << typesScript << "create table \"" << std::string(300, 'n') << "\"(\"" << std::string(300, 'c') << "\" date);";
+    std::ofstream(folder / "types.sql") << typesScript << "create table \"" << std::string(300, 'n') << "\"(\""
+                                        << std::string(300, 'c') << "\" date);";
     makeDatabase(folder / "types.db", folder / "types.sql");
     makeDatabase(folder / "shop.db", CORVANTA_SOURCE "/samples/shop.sql");
 
     std::string shop = "Database=" + (folder / "shop.db").string();
     const char *port = std::getenv("CORVANTA_TEST_POSTGRES_PORT");
     std::string server = "Servername=127.0.0.1\nDatabase=shop\nPort=" + std::string(port ? port : "1");
-    std::ofstream(folder / "odbcinst.ini") << section("SQLite3", "libsqlite3odbc.so", "")
-                                           << section("PostgreSQL Unicode", "psqlodbcw.so", "")
-                                           << section("PostgreSQL ANSI", "psqlodbca.so", "");
+    std::ofstream(folder / "odbcinst.ini")
+        << section("SQLite3", "libsqlite3odbc.so", "") << section("PostgreSQL Unicode", "psqlodbcw.so", "")
+        << section("PostgreSQL ANSI", "psqlodbca.so", "");
     std::ofstream(folder / "odbc.ini") << section("Archive", "SQLite3", shop) << section("Shop", "SQLite3", shop);
-    std::ofstream(folder / "user.ini")
-        << section("Shop", "SQLite3", shop) << section("Größe", "SQLite3", shop)
-        << section("Types", "SQLite3", "Database=" + (folder / "types.db").string())
-        << section("Lost File", "SQLite3", "Database=" + (folder / "lost.db").string())
-        << section("Lost Driver", "No Such Driver", "")
-        << section("Silent", "PostgreSQL Unicode",
-                   "Servername=127.0.0.1\nDatabase=x\nPort=" + std::to_string(silentPort()))
-        << section("Live", "PostgreSQL Unicode", server) << section("Live ANSI", "PostgreSQL ANSI", server);
+    std::ofstream(folder / "user.ini") << section("Shop", "SQLite3", shop) << section("Größe", "SQLite3", shop)
+                                       << section("Types", "SQLite3", "Database=" + (folder / "types.db").string())
+                                       << section("Lost File", "SQLite3", "Database=" + (folder / "lost.db").string())
+                                       << section("Lost Driver", "No Such Driver", "")
+                                       << section("Silent", "PostgreSQL Unicode",
+                                                  "Servername=127.0.0.1\nDatabase=x\nPort=" +
+                                                      std::to_string(silentPort()))
+                                       << section("Live", "PostgreSQL Unicode", server)
+                                       << section("Live ANSI", "PostgreSQL ANSI", server);
     setenv("ODBCSYSINI", folder.c_str(), 1);
     setenv("ODBCINI", (folder / "user.ini").c_str(), 1);
     return folder;

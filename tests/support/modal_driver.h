@@ -55,10 +55,10 @@ private:
         if (!window || !window->isVisible())
             return sinceStep.start();
         if (!steps.empty() && (steps.front().name.empty() || steps.front().name == nameOf(*window))) {
-            const Step step = std::move(steps.front());
+            // Not from within the timer's own event: the timer would stand still while a step has a window open.
+            QTimer::singleShot(0, window, [step = std::move(steps.front()), window] { run(step, *window); });
             steps.pop_front();
             sinceStep.start();
-            run(step, *window);
         } else if (sinceStep.elapsed() > patience) {
             ADD_FAILURE() << "left open: " << nameOf(*window) << " " << window->windowTitle().toStdString();
             sinceStep.start();

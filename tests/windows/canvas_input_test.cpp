@@ -2,6 +2,7 @@
 #include "canvas/ui/drop.h"
 #include "tests/windows/canvas_form.h"
 
+#include <QApplication>
 #include <QDropEvent>
 #include <QLabel>
 #include <QMimeData>
@@ -71,6 +72,8 @@ TEST_F(CanvasInputTest, TheOutlineMovesWhileTheObjectStaysAndEscEndsIt)
     QTest::mouseMove(&label, QPoint(25, 15));
     EXPECT_EQ(child("boxline0").geometry(), QRect(80, 60, 90, 1));
     EXPECT_EQ(child("boxline3").height(), 40);
+    const QColor line = form.pageArea().grab().toImage().pixelColor(160, 60);
+    EXPECT_GT(line.red() - line.green(), 100) << "it contrasts with the grey page";
     EXPECT_EQ(label.pos(), QPoint(60, 50));
     QTest::keyClick(&form, Qt::Key_Escape);
     EXPECT_FALSE(child("boxline0").isVisible());

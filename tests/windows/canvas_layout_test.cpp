@@ -78,6 +78,19 @@ TEST_F(CanvasLayout, ANewPageTakesTheWindowsSizeAndIsClean)
     EXPECT_TRUE(editing().pagedirty);
 }
 
+TEST_F(CanvasLayout, AFirstShownWindowGivesANewPageItsSize)
+{
+    page() = Page();
+    Editform first;
+    first.resize(500, 400);
+    EXPECT_EQ(page().bkgwd, 0) << "not shown yet";
+    first.show();
+    EXPECT_EQ(first.size(), QSize(500, 400));
+    EXPECT_EQ(page().bkgwd, 500);
+    EXPECT_EQ(first.pageArea().height(), page().bkght);
+    EXPECT_FALSE(editing().pagedirty);
+}
+
 TEST_F(CanvasLayout, APageLargerThanTheScreenScrollsAndKeepsItsSize)
 {
     page().bkgwd = 3000;

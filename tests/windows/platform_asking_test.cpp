@@ -178,10 +178,19 @@ TEST_F(QtAsking, AsksBeforeAFileIsReplacedWhateverTheCaseOfItsName)
     EXPECT_EQ(asking().fileDialog(saveQuestion()), std::nullopt);
 }
 
-TEST_F(QtAsking, RefusesANameThatTheCodePageLacks)
+TEST_F(QtAsking, ANameThatTheCodePageLacksStillNamesItsFile)
+{
+    const std::filesystem::path host = drive.add("PAGES/\xD7\x90.ods");
+    driver.expect("QFileDialog", [](QWidget &window) { type(window, "\xD7\x90"); });
+    const std::optional<std::string> chosen = asking().fileDialog(openQuestion());
+    ASSERT_TRUE(chosen);
+    EXPECT_EQ(hostPath(*chosen), host);
+}
+
+TEST_F(QtAsking, RefusesAFileOutsideEveryDrive)
 {
     drive.add("PAGES/MENU.ods");
-    driver.expect("QFileDialog", [](QWidget &window) { type(window, "\xD7\x90.ods"); });
+    driver.expect("QFileDialog", [](QWidget &window) { type(window, "../../elsewhere.ods"); });
     driver.expect("messagebox", [](QWidget &window) { window.close(); });
     driver.expect("QFileDialog", [](QWidget &window) { window.close(); });
     EXPECT_EQ(asking().fileDialog(saveQuestion()), std::nullopt);

@@ -1,0 +1,202 @@
+#include "shell/commands.h"
+
+#include "canvas/gestures.h"
+#include "document/events.h"
+#include "document/kinds.h"
+#include "document/object_file.h"
+#include "document/objects.h"
+#include "document/page_file.h"
+#include "platform/asking.h"
+
+#include <algorithm>
+
+namespace corvanta {
+
+namespace {
+
+PageMenuMarks marks;
+
+ObjectRecord &object(std::int16_t index) { return page().objects[static_cast<std::size_t>(index)]; }
+
+void startNewPage()
+{
+    if (querySave())
+        newPage();
+}
+
+void chooseAndOpenPage()
+{
+    if (!querySave() || !asking().fileDialog)
+        return;
+    FileDialog dialog;
+    dialog.mustExist = true;
+    dialog.defaultExtension = "ODS";
+    dialog.filter = "ODBC Form Files (*.ods)|*.ods|All Files (*.*)|*.*";
+    dialog.initialDirectory = initialDirectory();
+    const auto path = asking().fileDialog(dialog);
+    if (path && !path->empty())
+        openPage(*path);
+}
+
+void align(AlignMode mode) { alignSelection(static_cast<std::int16_t>(mode)); }
+
+} // namespace
+
+LaterCommands &laterCommands()
+{
+    static LaterCommands commands;
+    return commands;
+}
+
+CommandEvents &commandEvents()
+{
+    static CommandEvents events;
+    return events;
+}
+
+const PageMenuMarks &pageMenuMarks() { return marks; }
+
+void markMockToolbar(bool shown)
+{
+    marks.mockToolbar = shown;
+    tell(commandEvents().marksChanged);
+    tell(commandEvents().showMockToolbar, shown);
+}
+
+void markStatusPanel(bool shown)
+{
+    marks.statusPanel = shown;
+    tell(commandEvents().marksChanged);
+    tell(commandEvents().showStatusPanel, shown);
+}
+
+void markOdbcToolbar(bool shown)
+{
+    marks.odbcToolbar = shown;
+    tell(commandEvents().marksChanged);
+    tell(laterCommands().toggleOdbc, shown);
+}
+
+void odbcToolbarClosed()
+{
+    marks.odbcToolbar = false;
+    tell(commandEvents().marksChanged);
+}
+
+ObjectCommandState objectCommandState()
+{
+    ObjectCommandState state;
+    const std::int16_t curobj = editing().curobj;
+    state.list = objectCount(page()) > 0;
+    state.current = hasObject(page(), curobj);
+    state.animation = state.current && kindOf(object(curobj).kind) == Kind::Animation;
+    state.align = state.current && editing().multcount > 0;
+    return state;
+}
+
+bool commandEnabled(Command command)
+{
+    const LaterCommands &later = laterCommands();
+    const ObjectCommandState state = objectCommandState();
+    switch (command) {
+    case Command::None:
+    case Command::New:
+    case Command::Open:
+    case Command::Save:
+    case Command::SaveAs:
+    case Command::Exit:
+    case Command::MockToolbar:
+    case Command::StatusPanel:
+    case Command::Add:
+    case Command::LoadObject: return true;
+    case Command::ExportHtml: return bool(later.exportHtml);
+    case Command::Directory: return bool(later.showDirectory);
+    case Command::PageProperties: return bool(later.openPageProperties);
+    case Command::OdbcToolbar: return bool(later.toggleOdbc);
+    case Command::ObjectList: return later.showObjectList && state.list;
+    case Command::ObjectProperties: return later.openObjectProperties && state.current;
+    case Command::Align:
+    case Command::AlignLeft:
+    case Command::AlignRight:
+    case Command::AlignTop:
+    case Command::AlignBottom: return state.align;
+    case Command::Animate: return later.playAnimation && state.animation;
+    case Command::Duplicate:
+    case Command::SaveObject:
+    case Command::Delete: return state.current;
+    case Command::HelpContents: return bool(later.helpContents);
+    case Command::HelpSearch: return bool(later.helpSearch);
+    case Command::About: return bool(later.about);
+    }
+    return false;
+}
+
+bool commandChecked(Command command)
+{
+    return (command == Command::MockToolbar && marks.mockToolbar) ||
+           (command == Command::StatusPanel && marks.statusPanel) ||
+           (command == Command::OdbcToolbar && marks.odbcToolbar);
+}
+
+void runCommand(Command command)
+{
+    const LaterCommands &later = laterCommands();
+    switch (command) {
+    case Command::None:
+    case Command::Add:
+    case Command::Align: break;
+    case Command::New: startNewPage(); break;
+    case Command::Open: chooseAndOpenPage(); break;
+    case Command::Save: savePage(); break;
+    case Command::SaveAs: savePageAs(); break;
+    case Command::ExportHtml: tell(later.exportHtml); break;
+    case Command::Directory: tell(later.showDirectory); break;
+    case Command::Exit: tell(commandEvents().closeMain); break;
+    case Command::PageProperties: tell(later.openPageProperties); break;
+    case Command::MockToolbar: markMockToolbar(!marks.mockToolbar); break;
+    case Command::StatusPanel: markStatusPanel(!marks.statusPanel); break;
+    case Command::OdbcToolbar: markOdbcToolbar(!marks.odbcToolbar); break;
+    case Command::ObjectList: tell(later.showObjectList); break;
+    case Command::ObjectProperties: tell(later.openObjectProperties); break;
+    case Command::AlignLeft: align(AlignMode::Left); break;
+    case Command::AlignRight: align(AlignMode::Right); break;
+    case Command::AlignTop: align(AlignMode::Top); break;
+    case Command::AlignBottom: align(AlignMode::Bottom); break;
+    case Command::Animate: tell(later.playAnimation); break;
+    case Command::Duplicate: duplicateObject(); break;
+    case Command::LoadObject: loadObject(); break;
+    case Command::SaveObject: saveObject(); break;
+    case Command::Delete: deleteSelection(); break;
+    case Command::HelpContents: tell(later.helpContents); break;
+    case Command::HelpSearch: tell(later.helpSearch); break;
+    case Command::About: tell(later.about); break;
+    }
+}
+
+void addFromMenu(int menuIndex)
+{
+    const auto &registry = kindRegistry();
+    const auto entry = std::find_if(registry.begin(), registry.end(), [&](const RegisteredKind &kind) {
+        return !kind.displayName.empty() && kind.menuIndex == menuIndex;
+    });
+    if (entry == registry.end())
+        return;
+    if (const auto kind = kindOf(entry->code); kind && addObject(*kind) != noObject)
+        pageEdited();
+}
+
+void deleteSelection()
+{
+    const std::int16_t before = objectCount(page());
+    if (editing().multcount > 0) {
+        for (std::int16_t index = before; index-- > 0;)
+            if (object(index).selslot > 0)
+                deleteObject(index);
+    } else {
+        deleteObject(editing().curobj);
+    }
+    if (objectCount(page()) != before)
+        pageEdited();
+}
+
+} // namespace corvanta

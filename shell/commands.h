@@ -1,0 +1,70 @@
+#pragma once
+
+#include "shell/menu_table.h"
+
+#include <functional>
+
+// What the main window's commands do on the process-wide page, and when they can be used.
+namespace corvanta {
+
+// The commands of rooms that the shell does not know; each room fills its own at start-up. A command whose
+// function is empty is disabled.
+struct LaterCommands {
+    std::function<void()> openObjectProperties; // of the current object
+    std::function<void()> openPageProperties;
+    std::function<void()> showObjectList;
+    std::function<void()> showDirectory;
+    std::function<void(bool)> toggleOdbc; // shows or hides the ODBC tool window
+    std::function<void()> exportHtml;
+    std::function<void()> playAnimation; // the current one
+    std::function<void()> helpContents, helpSearch;
+    std::function<void()> about;
+};
+
+LaterCommands &laterCommands();
+
+// What the commands tell the main and canvas windows. Empty members are not called.
+struct CommandEvents {
+    std::function<void()> closeMain;           // as the user closes the main window
+    std::function<void()> marksChanged;        // check marks of the Page menu
+    std::function<void(bool)> showMockToolbar; // on the canvas window
+    std::function<void(bool)> showStatusPanel;
+};
+
+CommandEvents &commandEvents();
+
+// The check marks of the Page menu.
+struct PageMenuMarks {
+    bool mockToolbar = true, statusPanel = true, odbcToolbar = false;
+};
+
+const PageMenuMarks &pageMenuMarks();
+
+// Sets a check mark and shows or hides what it stands for.
+void markMockToolbar(bool shown);
+void markStatusPanel(bool shown);
+void markOdbcToolbar(bool shown);
+// The ODBC tool window was closed by itself: its check mark goes.
+void odbcToolbarClosed();
+
+// What the selection switches.
+struct ObjectCommandState {
+    bool current = false;   // there is a current object: properties, duplicate, save, delete
+    bool animation = false; // it is an Animation
+    bool align = false;     // there is a current object and a multi-selection
+    bool list = false;      // the page has objects
+};
+
+ObjectCommandState objectCommandState();
+
+bool commandEnabled(Command command);
+bool commandChecked(Command command);
+void runCommand(Command command);
+
+// Adds a new object of the kind whose item of the Add submenu has this index (from 1).
+void addFromMenu(int menuIndex);
+
+// Deletes the members of the multi-selection while it is in use, else the current object.
+void deleteSelection();
+
+} // namespace corvanta

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <span>
+
+// The main window's commands and where they stand in its menus and on its toolbar.
+namespace corvanta {
+
+enum class Command {
+    None, // submenus and separators
+    New,
+    Open,
+    Save,
+    SaveAs,
+    ExportHtml,
+    Directory,
+    Exit,
+    PageProperties,
+    MockToolbar,
+    StatusPanel,
+    OdbcToolbar,
+    ObjectList,
+    ObjectProperties,
+    Add, // one item per registered kind; runs as addFromMenu
+    Align,
+    AlignLeft,
+    AlignRight,
+    AlignTop,
+    AlignBottom,
+    Animate,
+    Duplicate,
+    LoadObject,
+    SaveObject,
+    Delete,
+    HelpContents,
+    HelpSearch,
+    About
+};
+
+// A menu item. Rows stand in the order of the menus, a submenu before its items.
+struct MenuRow {
+    const char *element; // its name
+    const char *caption; // with "&" before the access key; "-" for a separator
+    long helpId;         // help context number; 0 for none
+    Command command;
+    const char *parent; // element of its submenu; empty for the menu bar
+};
+
+std::span<const MenuRow> menuTable();
+
+bool isSeparator(const MenuRow &row);
+bool isSubmenu(const MenuRow &row);
+
+// The toolbar's buttons by their index.
+struct ToolbarRow {
+    Command command;
+    const char *hint;
+};
+
+std::span<const ToolbarRow> toolbarTable();
+
+} // namespace corvanta

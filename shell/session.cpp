@@ -1,0 +1,143 @@
+#include "shell/session.h"
+
+#include "actions/action_kinds.h"
+#include "canvas/selection.h"
+#include "database/catalogue.h"
+#include "document/events.h"
+#include "document/kinds.h"
+#include "document/objects.h"
+#include "document/page_file.h"
+#include "platform/codepage.h"
+#include "platform/help.h"
+#include "platform/multimedia.h"
+#include "platform/paths.h"
+#include "platform/text.h"
+#include "shell/commands.h"
+
+#include <algorithm>
+#include <filesystem>
+
+namespace corvanta {
+
+namespace {
+
+bool isDrivePath(std::string_view path)
+{
+    const bool letter = path.size() > 1 && path[1] == ':' && ((path[0] | 0x20) >= 'a' && (path[0] | 0x20) <= 'z');
+    return letter || (path.find('\\') != std::string_view::npos && path.find('/') == std::string_view::npos);
+}
+
+std::string drivePathOfArgument(std::string_view argument)
+{
+    if (isDrivePath(argument)) {
+        std::string path = fromUtf8Lossy(argument);
+        std::replace(path.begin(), path.end(), '/', '\\');
+        return path;
+    }
+    const std::string path = drivePath(std::filesystem::path(argument));
+    return path.empty() ? fromUtf8Lossy(argument) : path;
+}
+
+void applySettings()
+{
+    WindowSettings current;
+    if (sessionSteps().windowPlaces)
+        current = sessionSteps().windowPlaces();
+    current.ShowToolbar = pageMenuMarks().mockToolbar;
+    current.ShowStatus = pageMenuMarks().statusPanel;
+    const WindowSettings stored = loadSettings(current);
+    markMockToolbar(stored.ShowToolbar);
+    markStatusPanel(stored.ShowStatus);
+    tell(sessionSteps().placeWindows, stored);
+}
+
+void storeSettings()
+{
+    if (!sessionSteps().windowPlaces)
+        return;
+    WindowSettings settings = sessionSteps().windowPlaces();
+    settings.ShowToolbar = pageMenuMarks().mockToolbar;
+    settings.ShowStatus = pageMenuMarks().statusPanel;
+    saveSettings(settings);
+}
+
+void startCanvas()
+{
+    tell(sessionSteps().loadCanvas);
+    setCurrentObject(noObject);
+    BuildActionKinds();
+    buildKindRegistry();
+    tell(sessionSteps().buildAddMenu);
+    applySettings();
+    page().bkgwd = page().bkght = 0; // the new page takes the size that the window has now
+    tell(sessionSteps().showCanvas);
+    if (laterCommands().toggleOdbc)
+        markOdbcToolbar(true);
+}
+
+// A bare file name comes from the process's current directory; the page directory stays as the settings set it.
+void openFromCurrentDirectory(const std::string &name)
+{
+    const std::string curdir = editing().curdir;
+    openPage(withTrailingBackslash(currentDirectory()) + name);
+    editing().curdir = curdir;
+}
+
+} // namespace
+
+SessionSteps &sessionSteps()
+{
+    static SessionSteps steps;
+    return steps;
+}
+
+CommandLineFile commandLineFile(std::string_view argument)
+{
+    if (argument.empty())
+        return {};
+    const std::string path = drivePathOfArgument(argument);
+    const bool bare = argument.find_first_of("/\\") == std::string_view::npos;
+    return {bare ? std::string() : directoryPart(path), path.substr(path.rfind('\\') + 1)};
+}
+
+void startSession(std::string_view argument)
+{
+    documentEvents().showCanvas = [loaded = false]() mutable {
+        if (!loaded)
+            startCanvas();
+        loaded = true;
+    };
+    newPage();
+    const CommandLineFile file = commandLineFile(argument);
+    if (file.name.empty())
+        return;
+    if (file.directory.empty())
+        return openFromCurrentDirectory(file.name);
+    editing().curdir = file.directory;
+    changeDirectory(file.directory);
+    openPage(file.directory + file.name);
+}
+
+void endSession()
+{
+    mciSendString("Close all");
+    clearObjects();
+    storeSettings();
+    showHelp(HelpCommand::Quit);
+    if (pageMenuMarks().odbcToolbar)
+        markOdbcToolbar(false);
+    OdbcNameEndDll();
+    tell(sessionSteps().unloadCanvas);
+    documentEvents().showCanvas = {};
+}
+
+WindowSettings keptOnScreen(WindowSettings s, const ScreenSizes &sizes)
+{
+    s.MainTop = keptOnScreen(s.MainTop, sizes.mainHeight, sizes.screenHeight);
+    s.MainLeft = keptOnScreen(s.MainLeft, sizes.mainWidth, sizes.screenWidth);
+    s.PageTop = keptOnScreen(s.PageTop, s.PageHeight + sizes.frameHeight, sizes.screenHeight);
+    s.PageLeft = keptOnScreen(s.PageLeft, s.PageWidth + sizes.frameWidth, sizes.screenWidth);
+    return s;
+}
+
+} // namespace corvanta
