@@ -1,6 +1,8 @@
 #include "tools/odspage_commands.h"
 
+#include "document/page.h"
 #include "platform/codepage.h"
+#include "platform/host_files.h"
 
 #include <CLI/Config.hpp>
 #include <CLI/Formatter.hpp>
@@ -14,6 +16,8 @@ using AddCommand = void (*)(CLI::App &app, ToolRun &run);
 constexpr AddCommand commands[] = {
     addDumpCommand,
     addBuildCommand,
+    addSqlCommand,
+    addHtmlCommand,
 };
 
 constexpr int usualCodePage = 1252, wrongUsage = 2;
@@ -24,11 +28,32 @@ void useCodePage(int number)
         throw CLI::ValidationError("--codepage", "unknown code page " + std::to_string(number));
 }
 
+std::string readingFailure(const FileContent &content)
+{
+    if (content.missing)
+        return "no such file";
+    if (content.tooLarge)
+        return "more than " + std::to_string(fileLimit) + " bytes";
+    if (!content.error.empty())
+        return toUtf8(content.error);
+    return content.bytes.empty() ? "the file is empty" : "";
+}
+
 } // namespace
 
 void complain(ToolRun &run, std::string_view file, std::string_view text)
 {
     run.err << "odspage: " << file << ": " << text << '\n';
+}
+
+std::string readInput(ToolRun &run, const std::string &file)
+{
+    FileContent content = readHostFile(file, fileLimit);
+    const std::string failure = readingFailure(content);
+    if (failure.empty())
+        return std::move(content.bytes);
+    complain(run, file, failure);
+    return {};
 }
 
 int runOdspage(int argc, const char *const *argv, std::ostream &out, std::ostream &err)

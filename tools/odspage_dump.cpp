@@ -1,8 +1,6 @@
 #include "document/encoding.h"
 #include "document/object_file.h"
 #include "document/page_file.h"
-#include "platform/codepage.h"
-#include "platform/host_files.h"
 #include "platform/text.h"
 #include "tools/json_page.h"
 #include "tools/odspage_commands.h"
@@ -46,17 +44,6 @@ Reading readObjectFile(std::string_view bytes)
     return {objectFileJson(p, version), objectFileText(p, 0), version};
 }
 
-std::string readingFailure(const FileContent &content)
-{
-    if (content.missing)
-        return "no such file";
-    if (content.tooLarge)
-        return "more than " + std::to_string(fileLimit) + " bytes";
-    if (!content.error.empty())
-        return toUtf8(content.error);
-    return content.bytes.empty() ? "the file is empty" : "";
-}
-
 void warnOfChange(ToolRun &run, const std::string &file, const Reading &reading)
 {
     complain(run, file, "warning: saving would change this file");
@@ -68,20 +55,16 @@ void warnOfChange(ToolRun &run, const std::string &file, const Reading &reading)
 
 int dump(ToolRun &run, const std::string &file)
 {
-    const FileContent content = readHostFile(file, fileLimit);
-    const std::string failure = readingFailure(content);
-    if (!failure.empty()) {
-        complain(run, file, failure);
+    const std::string bytes = readInput(run, file);
+    if (bytes.empty())
         return 1;
-    }
-    const Reading reading =
-        isObjectFile(file, content.bytes) ? readObjectFile(content.bytes) : readPageFile(content.bytes);
+    const Reading reading = isObjectFile(file, bytes) ? readObjectFile(bytes) : readPageFile(bytes);
     run.out << printJson(reading.json) << std::flush;
     if (!run.out) {
         complain(run, file, "the output could not be written");
         return 1;
     }
-    if (reading.saved != content.bytes)
+    if (reading.saved != bytes)
         warnOfChange(run, file, reading);
     return 0;
 }

@@ -164,7 +164,8 @@ void imageDb(QPainter &p, const IconColours &c)
 void letter(QPainter &p, const QColor &colour, const QPointF &foot, double size)
 {
     p.setPen(QPen(colour, size / 6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    p.drawPolyline(QPolygonF{foot + QPointF(-size * 0.42, 0), foot + QPointF(0, -size), foot + QPointF(size * 0.42, 0)});
+    p.drawPolyline(
+        QPolygonF{foot + QPointF(-size * 0.42, 0), foot + QPointF(0, -size), foot + QPointF(size * 0.42, 0)});
     p.drawLine(foot + QPointF(-size * 0.26, -size * 0.36), foot + QPointF(size * 0.26, -size * 0.36));
 }
 

@@ -38,6 +38,7 @@ Menus::Menus(QMenuBar &menuBar) : QObject(&menuBar), bar(menuBar)
         action->setObjectName(row.element);
         if (row.helpId != 0)
             action->setProperty("helpid", static_cast<qlonglong>(row.helpId));
+        items.emplace_back(action, row.command);
     }
     connect(menu("objmenu"), &QMenu::aboutToShow, this, [this] { refreshCommands(); });
     refreshCommands();
@@ -76,15 +77,10 @@ void Menus::addKinds()
 
 void Menus::refreshCommands()
 {
-    for (const MenuRow &row : menuTable()) {
-        auto *parent = *row.parent ? static_cast<QWidget *>(menu(row.parent)) : &bar;
-        for (QAction *action : parent->actions()) {
-            if (action->objectName() != QLatin1String(row.element))
-                continue;
-            action->setEnabled(commandEnabled(row.command));
-            if (action->isCheckable())
-                action->setChecked(commandChecked(row.command));
-        }
+    for (const auto &[action, command] : items) {
+        action->setEnabled(commandEnabled(command));
+        if (action->isCheckable())
+            action->setChecked(commandChecked(command));
     }
 }
 

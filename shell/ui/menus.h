@@ -1,9 +1,13 @@
 #pragma once
 
+#include "shell/menu_table.h"
+
 #include <QObject>
 
 #include <map>
 #include <string>
+#include <utility>
+#include <vector>
 
 class QAction;
 class QMenu;
@@ -28,11 +32,12 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    QAction *addRow(const struct MenuRow &row);
+    QAction *addRow(const MenuRow &row);
     QMenu *menu(const std::string &element) const { return submenus.at(element); }
 
     QMenuBar &bar;
     std::map<std::string, QMenu *> submenus; // by element
+    std::vector<std::pair<QAction *, Command>> items;
 };
 
 } // namespace corvanta

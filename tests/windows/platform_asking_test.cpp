@@ -181,7 +181,7 @@ TEST_F(QtAsking, AsksBeforeAFileIsReplacedWhateverTheCaseOfItsName)
 TEST_F(QtAsking, ANameThatTheCodePageLacksStillNamesItsFile)
 {
     const std::filesystem::path host = drive.add("PAGES/\xD7\x90.ods");
-    driver.expect("QFileDialog", [](QWidget &window) { type(window, "\xD7\x90"); });
+    driver.expect("QFileDialog", [](QWidget &window) { type(window, "\xD7\x90.ods"); });
     const std::optional<std::string> chosen = asking().fileDialog(openQuestion());
     ASSERT_TRUE(chosen);
     EXPECT_EQ(hostPath(*chosen), host);

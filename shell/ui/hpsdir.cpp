@@ -1,0 +1,74 @@
+#include "shell/ui/hpsdir.h"
+
+#include "platform/help.h"
+#include "platform/paths.h"
+#include "platform/qt/dialogs.h"
+#include "platform/qt/text.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QStyle>
+#include <QVBoxLayout>
+
+namespace corvanta {
+
+namespace {
+
+constexpr int listWidth = 380, visibleRows = 12, indent = 2; // pixels; rows; blanks a level
+constexpr int pathRole = Qt::UserRole;
+
+QListWidgetItem *listItem(const DirectoryRow &row, const QStyle &style)
+{
+    auto *item = new QListWidgetItem(QString(row.depth * indent, ' ') + toQString(row.name));
+    item->setData(pathRole, toQString(row.path));
+    item->setIcon(style.standardIcon(row.open ? QStyle::SP_DirOpenIcon : QStyle::SP_DirClosedIcon));
+    return item;
+}
+
+} // namespace
+
+Hpsdir::Hpsdir()
+{
+    QVBoxLayout *contents = startDialog(*this, "hpsdir", QStringLiteral("Support File Directory"));
+    Fields fields = addFields(*contents);
+    curdirec = addInfoRow(fields, "curdirec", QString());
+    direclist = addListRow(fields, "direclist", QStringLiteral("&Directories:"), visibleRows);
+    direclist->setMinimumWidth(listWidth);
+    drivelist = addComboRow(fields, "drivelist", QStringLiteral("Dri&ves:"));
+    for (const std::string &drive : driveList())
+        drivelist->addItem(toQString(drive));
+    addButtons(*this, {{"ok", "OK",
+                        [this] {
+                            choosePageDirectory(choice.path);
+                            accept();
+                        }},
+                       {"cancel", "Cancel", [this] { reject(); }},
+                       {"Command2", "Help", [] { showHelp(HelpCommand::Contents); }}});
+    connect(drivelist, &QComboBox::activated, this, [this] { show(chosenDrive(toBytes(drivelist->currentText()))); });
+    connect(direclist, &QListWidget::itemActivated, this, [this](QListWidgetItem *row) { open(row); });
+    show(openedDirectoryChoice());
+    direclist->setFocus();
+    CentreDialog(*this);
+}
+
+void Hpsdir::show(const DirectoryChoice &shown)
+{
+    choice = shown;
+    drivelist->setCurrentIndex(drivelist->findText(toQString(choice.drive)));
+    curdirec->setText(toQString(choice.path));
+    direclist->clear();
+    for (const DirectoryRow &row : directoryRows(choice.path)) {
+        direclist->addItem(listItem(row, *style()));
+        if (row.open)
+            direclist->setCurrentRow(direclist->count() - 1);
+    }
+    direclist->scrollToItem(direclist->currentItem());
+}
+
+void Hpsdir::open(const QListWidgetItem *row) { show(chosenPath(toBytes(row->data(pathRole).toString()))); }
+
+void showDirectory() { Hpsdir().exec(); }
+
+} // namespace corvanta

@@ -1,0 +1,120 @@
+#include "shell/ui/hpsedit.h"
+
+#include "canvas/ui/editform.h"
+#include "document/page_file.h"
+#include "platform/qt/text.h"
+#include "shell/ui/icons.h"
+#include "shell/ui/menus.h"
+#include "shell/ui/strip.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QMenuBar>
+
+namespace corvanta {
+
+namespace {
+
+constexpr int settlingTime = 80; // milliseconds
+
+} // namespace
+
+Hpsedit::Hpsedit() : menus(new Menus(*menuBar())), strip(new Strip(this))
+{
+    setObjectName(QStringLiteral("hpsedit"));
+    setWindowTitle(QStringLiteral("Corvanta Form Editor"));
+    setWindowIcon(programIcon());
+    setCentralWidget(strip);
+    setContextMenuPolicy(Qt::NoContextMenu);
+    settling.setSingleShot(true);
+    settling.setInterval(settlingTime);
+    connect(&settling, &QTimer::timeout, this, [this] { snapToStrip(); });
+    strip->doubleClicked = [this] { menus->openAdd(); };
+    refreshFile();
+    resize(sizeHint());
+}
+
+void Hpsedit::buildAddMenu()
+{
+    menus->addKinds();
+    strip->addObjectTools();
+    resize(sizeHint());
+}
+
+void Hpsedit::refreshCommands()
+{
+    menus->refreshCommands();
+    strip->refreshCommands();
+}
+
+void Hpsedit::refreshFile() { strip->filePanel().setFile(toQString(filePanelCaption()), toQString(editing().filetag)); }
+
+void Hpsedit::openMenu(char letter)
+{
+    activateWindow();
+    raise();
+    menus->open(letter);
+}
+
+bool Hpsedit::isNormal() const { return !isMinimized() && !isMaximized() && !isFullScreen(); }
+
+void Hpsedit::snapToStrip()
+{
+    if (isNormal() && height() != sizeHint().height())
+        resize(width(), sizeHint().height());
+}
+
+void Hpsedit::followState()
+{
+    if (!canvas || canvas->property("tag").toString() == QLatin1String("IN INPOPTS"))
+        return;
+    canvas->setVisible(isNormal());
+    if (isNormal())
+        canvas->repaintPage();
+}
+
+void Hpsedit::resizeEvent(QResizeEvent *event)
+{
+    QMainWindow::resizeEvent(event);
+    if (height() != sizeHint().height())
+        settling.start();
+}
+
+void Hpsedit::changeEvent(QEvent *event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() != QEvent::WindowStateChange)
+        return;
+    settling.start();
+    followState();
+}
+
+void Hpsedit::keyPressEvent(QKeyEvent *event)
+{
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && event->modifiers().testFlag(Qt::AltModifier))
+        forwardToCanvas(*event);
+    else
+        QMainWindow::keyPressEvent(event);
+}
+
+void Hpsedit::forwardToCanvas(const QKeyEvent &event)
+{
+    if (!canvas || !canvas->isVisible() || !canvas->isEnabled())
+        return;
+    canvas->activateWindow();
+    canvas->pageArea().setFocus();
+    QKeyEvent forwarded(QEvent::KeyPress, event.key(), event.modifiers());
+    QCoreApplication::sendEvent(canvas, &forwarded);
+}
+
+void Hpsedit::closeEvent(QCloseEvent *event)
+{
+    const bool agreed = isEnabled() && (!mayClose || mayClose());
+    event->setAccepted(agreed);
+    if (agreed && closed)
+        closed();
+}
+
+} // namespace corvanta

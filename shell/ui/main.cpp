@@ -1,0 +1,57 @@
+#include "platform/codepage.h"
+#include "shell/ui/hpsedit.h"
+#include "shell/ui/startup.h"
+
+#include <CLI/CLI.hpp>
+#include <QApplication>
+
+#include <cstdlib>
+#include <string>
+
+namespace {
+
+using namespace corvanta;
+
+constexpr int wrongUsage = 2;
+
+struct CommandLine {
+    std::string pageFile;
+    int codePage = 0;
+};
+
+void describe(CLI::App &usage, CommandLine &line)
+{
+    usage.set_version_flag("--version", "Corvanta Form Editor " CORVANTA_VERSION);
+    usage.add_option("PAGE.ods", line.pageFile, "page file to open: a path of the system, or a drive path");
+    usage
+        .add_option("--codepage", line.codePage,
+                    "code page of the pages' texts (874, 1250 to 1258); else CORVANTA_CODEPAGE, else the language's")
+        ->check(CLI::Validator(
+            [](const std::string &number) { return setCodePage(std::atoi(number.c_str())) ? "" : "unknown code page"; },
+            "NUMBER"));
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    CommandLine line;
+    CLI::App usage("Lays out the pages of a host online service.", "corvanta");
+    describe(usage, line);
+    try {
+        usage.parse(argc, argv);
+    } catch (const CLI::ParseError &error) {
+        return usage.exit(error) == 0 ? 0 : wrongUsage;
+    }
+    QApplication application(argc, argv);
+    QApplication::setApplicationName("corvanta");
+    QApplication::setApplicationDisplayName("Corvanta Form Editor");
+    QApplication::setApplicationVersion(CORVANTA_VERSION);
+    QApplication::setDesktopFileName("corvanta");
+    QApplication::setQuitOnLastWindowClosed(false);
+    setCodePage(chosenCodePage(line.codePage));
+    installDesktop();
+    EditorWindows windows;
+    windows.start(line.pageFile);
+    return QApplication::exec();
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QDialog>
+
+class QPushButton;
+class QTreeWidget;
+
+namespace corvanta {
+
+// The object list. The main and canvas windows are switched off while it is open.
+class Objlist : public QDialog {
+public:
+    Objlist();
+    ~Objlist() override;
+
+    // Fills the list again; the first visible row stays.
+    void fill();
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    int selectedRow() const; // -1 for none
+    void openProperties();
+    void refreshButtons();
+
+    QTreeWidget *olist = nullptr;
+    QPushButton *propbut = nullptr, *delbut = nullptr;
+};
+
+void showObjectList();
+Objlist *openObjectList(); // none while it is not open
+
+} // namespace corvanta

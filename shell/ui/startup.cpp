@@ -1,0 +1,135 @@
+#include "shell/ui/startup.h"
+
+#include "canvas/running.h"
+#include "canvas/ui/editform.h"
+#include "document/events.h"
+#include "document/page_file.h"
+#include "platform/asking.h"
+#include "platform/codepage.h"
+#include "platform/qt/dialogs.h"
+#include "platform/qt/fonts.h"
+#include "platform/qt/qt_asking.h"
+#include "platform/qt/qt_multimedia.h"
+#include "platform/qt/qt_pictures.h"
+#include "platform/qt/window_switch.h"
+#include "shell/commands.h"
+#include "shell/session.h"
+#include "shell/ui/hpeabout.h"
+#include "shell/ui/hpsdir.h"
+#include "shell/ui/hpsedit.h"
+#include "shell/ui/hpsinput.h"
+#include "shell/ui/objlist.h"
+#include "shell/ui/places.h"
+
+#include <QApplication>
+#include <QLocale>
+
+#include <cmath>
+
+namespace corvanta {
+
+EditorWindows::EditorWindows() : hpsedit(std::make_unique<Hpsedit>())
+{
+    connectCommands();
+    connectSession();
+    connectWindows();
+}
+
+EditorWindows::~EditorWindows()
+{
+    switchableWindows() = {};
+    commandEvents() = {};
+    sessionSteps() = {};
+    editform.reset();
+    documentEvents() = {};
+}
+
+void EditorWindows::start(const std::string &pageFile)
+{
+    startSession(pageFile);
+    hpsedit->raise();
+}
+
+void EditorWindows::connectCommands()
+{
+    DocumentEvents &document = documentEvents();
+    document.objectCount = document.objectRemoved = [this] { hpsedit->refreshCommands(); };
+    document.fileChanged = [this] { hpsedit->refreshFile(); };
+    CommandEvents &commands = commandEvents();
+    commands.closeMain = [this] { hpsedit->close(); };
+    commands.marksChanged = [this] { hpsedit->refreshCommands(); };
+    commands.showMockToolbar = [this](bool shown) {
+        if (editform)
+            editform->showMockToolbar(shown);
+    };
+    commands.showStatusPanel = [this](bool shown) {
+        if (editform)
+            editform->showStatusPanel(shown);
+    };
+}
+
+void EditorWindows::connectSession()
+{
+    SessionSteps &steps = sessionSteps();
+    steps.loadCanvas = [this] { loadCanvas(); };
+    steps.buildAddMenu = [this] {
+        hpsedit->buildAddMenu();
+        placeAtFirst(*hpsedit, *editform);
+    };
+    steps.windowPlaces = [this] { return windowPlaces(*hpsedit, *editform); };
+    steps.placeWindows = [this](const WindowSettings &places) { placeWindows(*hpsedit, *editform, places); };
+    steps.showCanvas = [this] {
+        hpsedit->show();
+        editform->show();
+    };
+    steps.unloadCanvas = [this] { editform.reset(); };
+}
+
+void EditorWindows::connectWindows()
+{
+    hpsedit->mayClose = querySave;
+    hpsedit->closed = [] {
+        endSession();
+        QApplication::quit();
+    };
+    switchableWindows() = [this]() -> std::vector<QWidget *> {
+        if (Objlist *list = openObjectList())
+            return {list};
+        return {hpsedit.get(), editform.get()};
+    };
+}
+
+void EditorWindows::loadCanvas()
+{
+    running().twipsPerPixel = static_cast<int>(std::lround(twipsPerPixelX()));
+    editform = std::make_unique<Editform>();
+    editform->setWindowIcon(hpsedit->windowIcon());
+    hpsedit->setCanvas(editform.get());
+    EditformCommands &commands = editform->commands;
+    commands.openMenu = [this](char letter) { hpsedit->openMenu(letter); };
+    commands.openProperties = [] { runCommand(Command::ObjectProperties); };
+    commands.deleteCurrent = [] { runCommand(Command::Delete); };
+    commands.currentChanged = [this] { hpsedit->refreshCommands(); };
+    commands.closeRequested = [this] { hpsedit->close(); };
+}
+
+void installDesktop()
+{
+    registerFontSubstitutions();
+    installPictureLoader();
+    installMultimedia();
+    installAsking([]() -> QWidget * { return nullptr; });
+    asking().askText = showInput;
+    LaterCommands &commands = laterCommands();
+    commands.showDirectory = showDirectory;
+    commands.showObjectList = showObjectList;
+    commands.about = showAbout;
+}
+
+int chosenCodePage(int option)
+{
+    const int wanted = option != 0 ? option : qEnvironmentVariableIntValue("CORVANTA_CODEPAGE");
+    return wanted != 0 ? wanted : codePageOfLocale(QLocale::system().name().toStdString());
+}
+
+} // namespace corvanta

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+namespace corvanta {
+
+class Editform;
+class Hpsedit;
+
+// The editor's two top-level windows, tied to the document, to the canvas and to the commands.
+class EditorWindows {
+public:
+    EditorWindows();
+    ~EditorWindows();
+    EditorWindows(const EditorWindows &) = delete;
+    EditorWindows &operator=(const EditorWindows &) = delete;
+
+    // Shows the windows with a new page or the page file of the command line (host or drive path, UTF-8).
+    void start(const std::string &pageFile);
+
+    Hpsedit &main() { return *hpsedit; }
+    Editform *canvas() { return editform.get(); } // none before the start and after the end
+
+private:
+    void loadCanvas();
+    void connectCommands();
+    void connectSession();
+    void connectWindows();
+
+    std::unique_ptr<Hpsedit> hpsedit;
+    std::unique_ptr<Editform> editform;
+};
+
+// Puts this desktop behind the platform's questions, pictures, sounds and fonts, and the shell's small windows
+// behind their commands. Needs the application object.
+void installDesktop();
+
+// The code page of the editor's texts: the option (0 for none), else CORVANTA_CODEPAGE, else that of the user's
+// language.
+int chosenCodePage(int option);
+
+} // namespace corvanta
