@@ -44,8 +44,8 @@ Hpeabout::Hpeabout()
     lines->addWidget(name);
     lines->addWidget(textLine(QStringLiteral("Version " CORVANTA_VERSION), this));
     lines->addSpacing(gap / 2);
-    lines->addWidget(textLine(QStringLiteral("Grids are shown with the table painter of Corvanta.\n"
-                                             "Windows by Qt %1, sound by SDL2_mixer, data sources by unixODBC.")
+    lines->addWidget(textLine(QStringLiteral("With Qt %1 for windows and grids, SDL2_mixer for sound\n"
+                                             "and unixODBC for data sources.")
                                   .arg(QLatin1String(qVersion())),
                               this));
     addButtons(*this, {{"Command1", "OK", [this] { accept(); }}});

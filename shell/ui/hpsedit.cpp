@@ -35,6 +35,8 @@ Hpsedit::Hpsedit() : menus(new Menus(*menuBar())), strip(new Strip(this))
     resize(sizeHint());
 }
 
+void Hpsedit::setCanvas(Editform *window) { canvas = window; }
+
 void Hpsedit::buildAddMenu()
 {
     menus->addKinds();

@@ -18,7 +18,7 @@ public:
     Hpsedit();
 
     // The canvas window that follows this one's state; while it carries the tag "IN INPOPTS" it does not.
-    void setCanvas(Editform *window) { canvas = window; }
+    void setCanvas(Editform *window);
 
     void buildAddMenu(); // Add submenu and object tools, once the kinds are registered
     void refreshCommands();

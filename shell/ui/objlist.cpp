@@ -124,12 +124,9 @@ void showObjectList()
 {
     if (theList)
         return theList->activateWindow();
-    auto *list = new Objlist;
-    theList = nullptr; // the main and canvas windows are switched off, not the list
-    showSwitchingOff(list);
-    theList = list;
+    showSwitchingOff(new Objlist);
 }
 
-Objlist *openObjectList() { return theList; }
+Objlist *openObjectList() { return theList && theList->isVisible() ? theList : nullptr; }
 
 } // namespace corvanta

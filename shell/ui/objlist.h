@@ -29,6 +29,6 @@ private:
 };
 
 void showObjectList();
-Objlist *openObjectList(); // none while it is not open
+Objlist *openObjectList(); // none while it is not open and visible
 
 } // namespace corvanta

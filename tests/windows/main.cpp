@@ -1,0 +1,31 @@
+#include "actions/action_kinds.h"
+#include "document/kinds.h"
+#include "platform/qt/fonts.h"
+
+#include <QApplication>
+#include <gtest/gtest.h>
+
+#include <cstdio>
+
+namespace {
+
+// The offscreen platform says this of every window.
+void printMessage(QtMsgType, const QMessageLogContext &, const QString &text)
+{
+    if (!text.contains("propagateSizeHints"))
+        std::fprintf(stderr, "%s\n", qPrintable(text));
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    testing::InitGoogleTest(&argc, argv);
+    qInstallMessageHandler(printMessage);
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    corvanta::registerFontSubstitutions();
+    corvanta::BuildActionKinds();
+    corvanta::buildKindRegistry();
+    return RUN_ALL_TESTS();
+}
