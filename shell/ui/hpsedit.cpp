@@ -41,6 +41,7 @@ void Hpsedit::buildAddMenu()
 {
     menus->addKinds();
     strip->addObjectTools();
+    strip->updateGeometry();
     resize(sizeHint());
 }
 

@@ -45,7 +45,6 @@ int main(int argc, char **argv)
     }
     QApplication application(argc, argv);
     QApplication::setApplicationName("corvanta");
-    QApplication::setApplicationDisplayName("Corvanta Form Editor");
     QApplication::setApplicationVersion(CORVANTA_VERSION);
     QApplication::setDesktopFileName("corvanta");
     QApplication::setQuitOnLastWindowClosed(false);

@@ -55,8 +55,9 @@ QAction *Menus::addRow(const MenuRow &row)
         parent.addAction(submenu->menuAction());
         return submenu->menuAction();
     }
-    auto *action = new QAction(caption, &parent);
+    auto *action = new QAction(&parent);
     action->setSeparator(isSeparator(row));
+    action->setText(isSeparator(row) ? QString() : caption);
     action->setCheckable(isMark(row.command));
     action->setMenuRole(QAction::NoRole);
     connect(action, &QAction::triggered, this, [command = row.command] { runCommand(command); });

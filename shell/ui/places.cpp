@@ -15,7 +15,7 @@ namespace corvanta {
 
 namespace {
 
-constexpr int gap = 12; // pixels between the windows, and to the screen's edge
+constexpr int edge = 12, gap = 24; // pixels to the screen's edge, and between the windows
 
 int twipsX(int pixels) { return static_cast<int>(std::lround(pixels * twipsPerPixelX())); }
 int twipsY(int pixels) { return static_cast<int>(std::lround(pixels * twipsPerPixelY())); }
@@ -34,7 +34,7 @@ QPoint placeOf(const QWidget &window)
 QSize frameOf(const QWidget &window)
 {
     const QSize frame = window.frameGeometry().size() - window.size();
-    return frame.isEmpty() ? QSize(2, window.style()->pixelMetric(QStyle::PM_TitleBarHeight) + 2) : frame;
+    return frame.isEmpty() ? QSize(4, window.style()->pixelMetric(QStyle::PM_TitleBarHeight) + 6) : frame;
 }
 
 ScreenSizes screenSizes(const QWidget &main, const QWidget &canvas)
@@ -80,7 +80,7 @@ void placeWindows(QWidget &main, QWidget &canvas, const WindowSettings &places)
 void placeAtFirst(QWidget &main, QWidget &canvas)
 {
     const QPoint corner = QGuiApplication::primaryScreen()->availableGeometry().topLeft();
-    main.move(corner + QPoint(gap, gap));
+    main.move(corner + QPoint(edge, edge));
     canvas.move(main.pos() + QPoint(0, main.height() + frameOf(main).height() + gap));
 }
 
