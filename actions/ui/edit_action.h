@@ -1,5 +1,7 @@
 #pragma once
 
+#include "actions/action_choice.h" // dialogExchange()
+
 #include <functional>
 #include <string>
 

@@ -14,17 +14,23 @@ Rect droppedRect(const Rect &object, Point at, Size pageSize)
             std::max(0, std::min(at.y, pageSize.height - object.height)), object.width, object.height};
 }
 
-void dropObject(Kind kind, Point at)
+std::int16_t addObjectAt(Kind kind, Point at)
 {
     const std::int16_t index = addObject(kind);
     if (index == noObject)
-        return;
+        return noObject;
     clearMultiSelection();
     selectObject(index);
     const Rect place = droppedRect(rectOf(page().objects[static_cast<std::size_t>(index)]), at, sizeOf(page()));
     setObjectGeometry(index, toPixels(place.top), toPixels(place.left), toPixels(place.height), toPixels(place.width));
     showTrackers();
-    pageEdited();
+    return index;
+}
+
+void dropObject(Kind kind, Point at)
+{
+    if (addObjectAt(kind, at) != noObject)
+        pageEdited();
 }
 
 } // namespace corvanta

@@ -8,8 +8,11 @@ namespace corvanta {
 // edge; the corner of a larger object stays on the page.
 Rect droppedRect(const Rect &object, Point at, Size pageSize);
 
-// Adds a new object with its defaults at a point of the page and selects it: a completed edit. A refused
-// object (a fourth ticker) changes nothing.
+// Adds a new object with its defaults at a point of the page and selects it; its index. A refused object (a
+// fourth ticker) changes nothing and gives noObject.
+std::int16_t addObjectAt(Kind kind, Point at);
+
+// The same as a completed edit.
 void dropObject(Kind kind, Point at);
 
 } // namespace corvanta

@@ -1,6 +1,6 @@
+#include "actions/ui/entry_buttons.h"
 #include "document/parse.h"
 #include "objects/ui/dialogs.h"
-#include "objects/ui/entry_list.h"
 #include "platform/qt/text.h"
 #include "platform/text.h"
 

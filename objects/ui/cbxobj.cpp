@@ -1,3 +1,4 @@
+#include "actions/ui/entry_buttons.h"
 #include "document/parse.h"
 #include "objects/ui/dialogs.h"
 #include "objects/ui/entry_list.h"

@@ -1,6 +1,6 @@
+#include "actions/ui/entry_buttons.h"
 #include "document/tablist.h"
 #include "objects/ui/dialogs.h"
-#include "objects/ui/entry_list.h"
 #include "objects/ui/entry_look.h"
 #include "objects/ui/grdcol.h"
 #include "platform/qt/text.h"

@@ -1,5 +1,6 @@
 #include "actions/action.h"
 #include "actions/action_kinds.h"
+#include "actions/ui/entry_buttons.h"
 #include "objects/ui/dialogs.h"
 #include "objects/ui/entry_list.h"
 #include "objects/ui/entry_look.h"

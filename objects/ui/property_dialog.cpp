@@ -3,40 +3,24 @@
 #include "actions/action_choice.h"
 #include "platform/help.h"
 #include "platform/qt/text.h"
+#include "platform/qt/tied_text.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 
+#include <memory>
+
 namespace corvanta {
 
 namespace {
 
-// A text control and a member: a text that the author has left alone stays byte for byte, whatever the control made
-// of it.
-template <class Get, class Set> void tieText(PropertyDialog &d, Get get, Set set, std::string &member)
+template <class Control> void tieText(PropertyDialog &d, Control &control, std::string &member)
 {
-    auto shown = std::make_shared<QString>();
-    d.onLoad([=, &member] {
-        set(toQString(member));
-        *shown = get();
-    });
-    d.onTake([=, &member] {
-        if (get() != *shown)
-            member = toBytes(get());
-    });
-}
-
-void tieLine(PropertyDialog &d, QLineEdit *edit, std::string &member)
-{
-    tieText(
-        d, [edit] { return edit->text(); },
-        [edit](const QString &text) {
-            edit->setText(text);
-            edit->setCursorPosition(0);
-        },
-        member);
+    auto text = std::make_shared<TiedText>(control);
+    d.onLoad([text, &member] { text->show(member); });
+    d.onTake([text, &member] { member = text->bytes(); });
 }
 
 void tieIndex(PropertyDialog &d, QComboBox *list, int &member)
@@ -75,22 +59,29 @@ void PropertyDialog::confirm()
     const Confirmation confirmation = ConfirmProperties(objectIndex, values);
     if (confirmation.stored)
         return accept();
-    if (auto *edit = findChild<QLineEdit *>(QString::fromStdString(confirmation.focus))) {
-        edit->setText(edit->text().trimmed());
-        edit->setFocus();
-        edit->selectAll();
-    }
+    returnToField(*this, confirmation.focus);
 }
 
-void PropertyDialog::tie(QLineEdit *edit, std::string PropertyFields::*member) { tieLine(*this, edit, values.*member); }
+void returnToField(QWidget &dialog, const std::string &name)
+{
+    auto *field = name.empty() ? nullptr : dialog.findChild<QLineEdit *>(QString::fromStdString(name));
+    if (!field)
+        return;
+    field->setText(field->text().trimmed());
+    field->setFocus();
+    field->selectAll();
+}
 
-void PropertyDialog::tie(QLineEdit *edit, std::string CommonFields::*member) { tieLine(*this, edit, values.*member); }
+void PropertyDialog::tie(QLineEdit *edit, std::string PropertyFields::*member)
+{
+    tieText(*this, *edit, values.*member);
+}
+
+void PropertyDialog::tie(QLineEdit *edit, std::string CommonFields::*member) { tieText(*this, *edit, values.*member); }
 
 void PropertyDialog::tie(QPlainTextEdit *edit, std::string PropertyFields::*member)
 {
-    tieText(
-        *this, [edit] { return edit->toPlainText(); }, [edit](const QString &text) { edit->setPlainText(text); },
-        values.*member);
+    tieText(*this, *edit, values.*member);
 }
 
 void PropertyDialog::tie(QCheckBox *box, bool PropertyFields::*member)

@@ -65,4 +65,9 @@ QPushButton *addFontButton(PropertyDialog &d, Fields &fields, std::function<void
 // The colour text col and its button colsel; changed runs when either changes the colour.
 QLineEdit *addColourRow(PropertyDialog &d, Fields &fields, std::function<void()> changed = {});
 
+// Puts the focus into a refused field, trimmed and with all its text selected; an empty name leaves it where it is.
+void returnToField(QWidget &dialog, const std::string &name);
+// Asks for a colour, starting from the hexadecimal digits of a field, which then takes the chosen one.
+void chooseColour(QLineEdit &field);
+
 } // namespace corvanta

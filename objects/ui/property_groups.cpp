@@ -99,17 +99,20 @@ QPushButton *addFontButton(PropertyDialog &d, Fields &fields, std::function<void
     return button;
 }
 
+void chooseColour(QLineEdit &field)
+{
+    const std::int32_t colour = ParseColourText(toBytes(field.text()));
+    const auto chosen = asking().colourDialog ? asking().colourDialog(colour) : std::nullopt;
+    if (chosen)
+        field.setText(toQString(colourText(*chosen)));
+}
+
 QLineEdit *addColourRow(PropertyDialog &d, Fields &fields, std::function<void()> changed)
 {
     QLineEdit *col = addTextRow(fields, "col", "&BackColor:");
     d.tie(col, &PropertyFields::col);
     QPushButton *colsel = addButtonBeside(fields, "colsel", "Select");
-    QObject::connect(colsel, &QPushButton::clicked, col, [col] {
-        const std::int32_t colour = ParseColourText(toBytes(col->text()));
-        const auto chosen = asking().colourDialog ? asking().colourDialog(colour) : std::nullopt;
-        if (chosen)
-            col->setText(toQString(colourText(*chosen)));
-    });
+    QObject::connect(colsel, &QPushButton::clicked, col, [col] { chooseColour(*col); });
     if (changed)
         QObject::connect(col, &QLineEdit::textChanged, col, [changed] { changed(); });
     return col;

@@ -11,6 +11,7 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QMenuBar>
+#include <QVBoxLayout>
 
 namespace corvanta {
 
@@ -25,7 +26,11 @@ Hpsedit::Hpsedit() : menus(new Menus(*menuBar())), strip(new Strip(this))
     setObjectName(QStringLiteral("hpsedit"));
     setWindowTitle(QStringLiteral("Corvanta Form Editor"));
     setWindowIcon(programIcon());
-    setCentralWidget(strip);
+    setCentralWidget(new QWidget(this));
+    auto *column = new QVBoxLayout(centralWidget());
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(strip);
+    column->addStretch(); // below the strip of a maximised window
     setContextMenuPolicy(Qt::NoContextMenu);
     settling.setSingleShot(true);
     settling.setInterval(settlingTime);
@@ -42,6 +47,7 @@ void Hpsedit::buildAddMenu()
     menus->addKinds();
     strip->addObjectTools();
     strip->updateGeometry();
+    centralWidget()->updateGeometry();
     resize(sizeHint());
 }
 

@@ -44,11 +44,7 @@ EditorWindows::~EditorWindows()
     documentEvents() = {};
 }
 
-void EditorWindows::start(const std::string &pageFile)
-{
-    startSession(pageFile);
-    hpsedit->raise();
-}
+void EditorWindows::start(const std::string &pageFile) { startSession(pageFile); }
 
 void EditorWindows::connectCommands()
 {
@@ -90,7 +86,7 @@ void EditorWindows::connectWindows()
     hpsedit->mayClose = querySave;
     hpsedit->closed = [] {
         endSession();
-        QApplication::quit();
+        QApplication::exit();
     };
     switchableWindows() = [this]() -> std::vector<QWidget *> {
         if (Objlist *list = openObjectList())

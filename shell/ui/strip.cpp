@@ -76,6 +76,7 @@ Strip::Strip(QWidget *parent) : QFrame(parent), panel(nullptr), row(new QHBoxLay
 {
     setObjectName(QStringLiteral("tbarpic"));
     setFrameStyle(static_cast<int>(QFrame::Panel) | static_cast<int>(QFrame::Raised));
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     row->setContentsMargins(margin, margin, margin, margin);
     row->setSpacing(1);
     for (int i = 0; i < static_cast<int>(buttons.size()); ++i) {

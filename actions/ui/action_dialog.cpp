@@ -1,0 +1,62 @@
+#include "actions/ui/action_dialog.h"
+
+#include "actions/action_choice.h"
+#include "platform/qt/text.h"
+#include "platform/qt/window_switch.h"
+#include "platform/text.h"
+
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace corvanta {
+
+namespace {
+
+constexpr int leastWidth = 50; // characters
+
+void enableWithText(QPushButton &ok, QLineEdit &field)
+{
+    const auto update = [&ok, &field] { ok.setEnabled(!trimmed(toBytes(field.text())).empty()); };
+    update();
+    QObject::connect(&field, &QLineEdit::textChanged, &ok, update);
+}
+
+} // namespace
+
+ActionDialog::ActionDialog(const char *name, const char *caption)
+    : result(dialogExchange()), column(startDialog(*this, name, caption))
+{
+}
+
+bool ActionDialog::run(QWidget &first, const std::function<std::string()> &okText, const char *cancelName)
+{
+    const auto buttons =
+        addButtons(*this, {{"ok", "OK", [this] { accept(); }}, {cancelName, "Cancel", [this] { reject(); }}});
+    if (required)
+        enableWithText(*buttons.front(), *required);
+    first.setFocus();
+    setMinimumWidth(fontMetrics().averageCharWidth() * leastWidth);
+    CentreDialog(*this);
+    stayInFront(*this);
+    const bool confirmed = exec() == Accepted;
+    if (confirmed)
+        result = okText();
+    dialogExchange() = result;
+    return confirmed;
+}
+
+void selectWholeText(QLineEdit &field)
+{
+    field.end(false);
+    field.home(true);
+}
+
+void selectWholeText(QPlainTextEdit &field)
+{
+    field.moveCursor(QTextCursor::End);
+    field.moveCursor(QTextCursor::Start, QTextCursor::KeepAnchor);
+}
+
+} // namespace corvanta

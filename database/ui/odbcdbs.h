@@ -1,0 +1,52 @@
+#pragma once
+
+#include "document/kinds.h"
+
+#include <QIcon>
+#include <QPointer>
+#include <QWidget>
+
+#include <functional>
+
+class QLineEdit;
+class QListWidget;
+class QVBoxLayout;
+
+namespace corvanta {
+
+class KindButtons;
+
+// The ODBC tool window, "ODBC Toolbar": the connected data source, its tables, the columns of one of them, all to be
+// dragged, and the kind that a column becomes on the page. It shows the editor's connection, which outlives it.
+class Odbcdbs : public QWidget {
+public:
+    // The window stays in front of the main window, and can be used while that one is switched off. pictureOf gives the
+    // picture of a kind button.
+    Odbcdbs(QWidget &mainWindow, const std::function<QIcon(Kind)> &pictureOf);
+
+    std::function<void()> closed; // the user has closed the window, which hides it
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    void addSource(QVBoxLayout &layout);
+    void addTables(QVBoxLayout &layout);
+    void addColumns(QVBoxLayout &layout);
+    void watchPointer();
+    void selectSource();
+    void tableClicked();
+    void tableKeyReleased();
+    void showConnection();
+    void showColumns();
+
+    QPointer<QWidget> owner;
+    QLineEdit *dsn = nullptr;
+    QListWidget *dbslist = nullptr, *fldlist = nullptr;
+    KindButtons *kinds = nullptr;
+};
+
+} // namespace corvanta

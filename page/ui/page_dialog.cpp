@@ -1,0 +1,145 @@
+#include "page/ui/page_dialog.h"
+
+#include "database/connection.h"
+#include "database/sql.h"
+#include "objects/ui/property_dialog.h"
+#include "platform/asking.h"
+#include "platform/help.h"
+#include "platform/qt/dialogs.h"
+#include "platform/qt/drop_target.h"
+#include "platform/qt/text.h"
+#include "platform/text.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScreen>
+
+namespace corvanta {
+
+PageDialog::PageDialog() : values(LoadPageProperties(page()))
+{
+    const auto columns = addColumns(*startDialog(*this, "pgprops", "Page Properties"), 2);
+    addBackground(*columns[0]);
+    addPlainGroup(*columns[0], "sound", "&Sound", "sndfn", &PagePropertyFields::sndfn);
+    addPageType(*columns[0]);
+    addPlainGroup(*columns[0], "caption", "Caption", "pgcaption", &PagePropertyFields::pgcaption);
+    addConnection(*columns[1]);
+    addDatabase(*columns[1]);
+    addPlainGroup(*columns[0], "key", "&Key Required:", "keyreq", &PagePropertyFields::keyreq);
+    addFlags(*columns[1]);
+    addButtons(*this, {{"ok", "OK", [this] { confirm(); }},
+                       {"cancbut", "Cancel", [this] { reject(); }},
+                       {"helpbut", "Help", [] { showHelp(HelpCommand::Contents); }}});
+    load();
+    CentreDialog(*this);
+}
+
+void PageDialog::addBackground(QBoxLayout &layout)
+{
+    Group group = addGroup(layout, "background", "Background", 2);
+    QLineEdit *imgfn = tie(addTextRow(group.fields, "imgfn", "&Image:"), &PagePropertyFields::imgfn);
+    QLineEdit *bkgcol = tie(addTextRow(group.fields, "bkgcol", "&Color:"), &PagePropertyFields::bkgcol);
+    QPushButton *bkgsel = addButtonBeside(group.fields, "bkgsel", "Select");
+    QLineEdit *bkght = tie(addNumberRow(group.fields, "bkght", "&Height:"), &PagePropertyFields::bkght);
+    QLineEdit *bkgwd = tie(addNumberRow(group.fields, "bkgwd", "&Width:"), &PagePropertyFields::bkgwd);
+    connect(bkgsel, &QPushButton::clicked, bkgcol, [bkgcol] { chooseColour(*bkgcol); });
+    connect(imgfn, &QLineEdit::textChanged, imgfn, [bkght, bkgwd](const QString &text) {
+        const bool typed = sizeIsTyped(toBytes(text));
+        setFieldEnabled(*bkght, typed);
+        setFieldEnabled(*bkgwd, typed);
+    });
+}
+
+void PageDialog::addPlainGroup(QBoxLayout &layout, const char *name, const QString &caption, const char *field,
+                               Text member)
+{
+    Group group = addGroup(layout, name, caption);
+    tie(addTextRow(group.fields, field, ""), member);
+}
+
+void PageDialog::addPageType(QBoxLayout &layout)
+{
+    Group group = addGroup(layout, "pagetype", "Page Type");
+    types = addComboRow(group.fields, "PageType", "");
+    for (const char *name : pageTypeNames())
+        types->addItem(name);
+    connect(types, &QComboBox::currentIndexChanged, this, [this](int type) { showForType(type); });
+}
+
+void PageDialog::addConnection(QBoxLayout &layout)
+{
+    Group group = addGroup(layout, "connection", "Connection Info");
+    QLineEdit *dsn = tie(addTextRow(group.fields, "dsn", "Data Source:"), &PagePropertyFields::dsn);
+    QLineEdit *user = tie(addTextRow(group.fields, "Username", "User Name:"), &PagePropertyFields::Username);
+    QLineEdit *password = tie(addPasswordRow(group.fields, "Password", "Password:"), &PagePropertyFields::Password);
+    acceptDrag(*dsn, "dsn", [dsn, user, password](const QByteArray &source) {
+        dsn->setText(toQString(source.toStdString()));
+        user->setText(toQString(connection().user));
+        password->setText(toQString(connection().password));
+    });
+}
+
+void PageDialog::addDatabase(QBoxLayout &layout)
+{
+    Group group = addGroup(layout, "database", "Database");
+    database = group.box;
+    deftbl = tie(addTextRow(group.fields, "deftbl", "Default Table:"), &PagePropertyFields::deftbl);
+    statement = tie(addTextAreaRow(group.fields, "SelectStmt", "Select:"), &PagePropertyFields::SelectStmt);
+    generate = addButtonRow(*group.contents, {{"generate", "Generate", [this] { generateStatement(); }}}).front();
+    acceptDrag(*deftbl, "dbs", [this](const QByteArray &table) { deftbl->setText(toQString(table.toStdString())); });
+}
+
+void PageDialog::addFlags(QBoxLayout &layout)
+{
+    Group group = addGroup(layout, "flags", "Flags", 3);
+    flags = {{addCheckRow(group.fields, "rtl", "RTL"), &PagePropertyFields::rtl},
+             {addCheckRow(group.fields, "anonymous", "Public"), &PagePropertyFields::anonymous},
+             {addCheckRow(group.fields, "replacehtml", "Filter HTML"), &PagePropertyFields::replacehtml}};
+}
+
+void PageDialog::showForType(int pageType)
+{
+    database->setVisible(showsDefaultTable(pageType));
+    setFieldVisible(*statement, showsSelectStatement(pageType));
+    generate->setVisible(showsSelectStatement(pageType));
+}
+
+void PageDialog::generateStatement()
+{
+    const SqlText generated = selectWholeTable(toBytes(deftbl->text()));
+    if (generated.error.empty())
+        statement->setPlainText(toQString(generated.text));
+    else
+        showExclamation(generated.error, "Properties Error");
+}
+
+void PageDialog::load()
+{
+    for (TiedField &field : texts)
+        field.control.show(values.*field.member);
+    for (const TiedFlag &flag : flags)
+        flag.box->setChecked(values.*flag.member);
+    types->setCurrentIndex(values.PageType < types->count() ? values.PageType : -1);
+    showForType(values.PageType);
+}
+
+void PageDialog::confirm()
+{
+    for (const TiedField &field : texts)
+        values.*field.member = field.control.bytes();
+    for (const TiedFlag &flag : flags)
+        values.*flag.member = flag.box->isChecked();
+    if (types->currentIndex() >= 0)
+        values.PageType = types->currentIndex();
+    const QSize size = screen()->size();
+    const PageConfirmation confirmation = ConfirmPageProperties(values, {size.width(), size.height()});
+    if (confirmation.stored)
+        return accept();
+    returnToField(*this, confirmation.focus);
+}
+
+} // namespace corvanta

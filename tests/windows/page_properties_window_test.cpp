@@ -1,0 +1,279 @@
+#include "database/connection.h"
+#include "document/page_file.h"
+#include "page/ui/pgprops.h"
+#include "platform/qt/drag.h"
+#include "platform/qt/window_switch.h"
+#include "tests/support/samples.h"
+#include "tests/support/scripted_asking.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
+#include <QDropEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QPlainTextEdit>
+#include <QPushButton>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+using namespace corvanta;
+
+namespace {
+
+class PagePropertiesWindow : public testing::Test {
+protected:
+    PagePropertiesWindow()
+    {
+        newPage();
+        editing() = {};
+        editing().curdir = "C:\\";
+        page().bkgwd = 400;
+        page().bkght = 300;
+        pictureLoader() = [](const std::string &) {
+            auto picture = std::make_shared<Picture>();
+            picture->width = 600;
+            picture->height = 420;
+            return picture;
+        };
+        switchableWindows() = [this] { return std::vector<QWidget *>{&mainWindow}; };
+    }
+    ~PagePropertiesWindow() override
+    {
+        if (QDialog *open = dialog())
+            open->close();
+        settle();
+        switchableWindows() = nullptr;
+        pictureLoader() = nullptr;
+        connection() = {};
+        newPage();
+        editing() = {};
+    }
+
+    void open()
+    {
+        openPageProperties([this] { ++closed; });
+    }
+    static QDialog *dialog()
+    {
+        for (QWidget *window : QApplication::topLevelWidgets())
+            if (window->objectName() == "pgprops")
+                return static_cast<QDialog *>(window);
+        return nullptr;
+    }
+    template <class Control = QLineEdit> static Control &field(const char *name)
+    {
+        auto *found = dialog()->findChild<Control *>(name);
+        if (!found)
+            throw std::runtime_error(std::string("no control ") + name);
+        return *found;
+    }
+    static void press(const char *name)
+    {
+        field<QPushButton>(name).click();
+        settle();
+    }
+    static void settle() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
+
+    static bool drop(QWidget &target, const char *tag, const char *payload)
+    {
+        const std::unique_ptr<QMimeData> data(dragData(tag, payload));
+        QDragEnterEvent enter(QPoint(3, 3), Qt::CopyAction, data.get(), Qt::LeftButton, {});
+        QApplication::sendEvent(&target, &enter);
+        QDropEvent event(QPointF(3, 3), Qt::CopyAction, data.get(), Qt::LeftButton, {});
+        QApplication::sendEvent(&target, &event);
+        return enter.isAccepted() && event.isAccepted();
+    }
+    // What the dialog shows of the database: the group, and the statement with its label and button.
+    static std::string shown()
+    {
+        std::string parts;
+        for (const char *name : {"deftbl", "deftbllabel", "database", "SelectStmt", "SelectStmtlabel", "generate"})
+            parts += field<QWidget>(name).isVisible() ? '1' : '0';
+        return parts;
+    }
+    void refused(const char *message, const char *focus)
+    {
+        ScriptedAsking user;
+        user.expectMessage(message, "Properties Error");
+        press("ok");
+        ASSERT_NE(dialog(), nullptr) << message;
+        if (focus) {
+            EXPECT_EQ(dialog()->focusWidget(), &field(focus)) << message;
+            EXPECT_EQ(field(focus).selectedText(), field(focus).text()) << message;
+        }
+        EXPECT_FALSE(editing().pagedirty);
+    }
+
+    TemporaryDrive drive;
+    QWidget mainWindow;
+    int closed = 0;
+};
+
+} // namespace
+
+TEST_F(PagePropertiesWindow, OkUntouchedWritesEqualBytes)
+{
+    drive.add("welcome.wav");
+    drive.add("paper.bmp");
+    for (const char *name : {"hitlist.ods", "menu.ods", "query.ods", "record.ods", "view.ods"}) {
+        ASSERT_TRUE(parsePage(page(), samples::sample(name))) << name;
+        page().pgcaption = "two\r\nlines, a tab\t and \x81";
+        page().PageType = static_cast<std::int16_t>(page().PageType + (name == std::string("view.ods") ? 40 : 0));
+        const std::string before = serialisePage(page());
+        open();
+        press("ok");
+        EXPECT_EQ(dialog(), nullptr) << name;
+        EXPECT_EQ(serialisePage(page()), before) << name;
+        EXPECT_TRUE(editing().pagedirty);
+    }
+    EXPECT_EQ(closed, 5);
+}
+
+TEST_F(PagePropertiesWindow, CancelAfterChangingEveryFieldWritesNothing)
+{
+    page().PageType = 2;
+    const std::string before = serialisePage(page());
+    open();
+    EXPECT_FALSE(mainWindow.isEnabled());
+    for (auto *edit : dialog()->findChildren<QLineEdit *>())
+        edit->setText("changed");
+    for (auto *box : dialog()->findChildren<QCheckBox *>())
+        box->toggle();
+    field<QPlainTextEdit>("SelectStmt").setPlainText("changed");
+    field<QComboBox>("PageType").setCurrentIndex(4);
+    press("cancbut");
+    EXPECT_EQ(dialog(), nullptr);
+    EXPECT_TRUE(mainWindow.isEnabled());
+    EXPECT_EQ(closed, 1);
+    EXPECT_EQ(serialisePage(page()), before);
+    EXPECT_FALSE(editing().pagedirty);
+}
+
+TEST_F(PagePropertiesWindow, FieldsAreStored)
+{
+    open();
+    EXPECT_EQ(field("bkgcol").text(), "C0C0C0");
+    {
+        ScriptedAsking user;
+        user.expectColourDialog(0x00FF8001);
+        press("bkgsel");
+        EXPECT_EQ(user.colours.front(), 0xC0C0C0);
+    }
+    EXPECT_EQ(field("bkgcol").text(), "FF8001");
+    field("bkgcol").setText("ff");
+    field<QComboBox>("PageType").setCurrentIndex(3);
+    field("dsn").setText("Shop");
+    field("Username").setText("ann");
+    field("Password").setText("p w");
+    field("deftbl").setText("Orders");
+    field<QPlainTextEdit>("SelectStmt").setPlainText("Select 1");
+    field("pgcaption").setText("The shop");
+    field("keyreq").setText("K");
+    field<QCheckBox>("rtl").setChecked(true);
+    field<QCheckBox>("anonymous").setChecked(true);
+    field<QCheckBox>("replacehtml").setChecked(false);
+    press("ok");
+    EXPECT_EQ(page().bkgcol, 255);
+    EXPECT_EQ(page().PageType, 3);
+    EXPECT_EQ(page().dbconnect, "Shop\tann\tp w\tOrders");
+    EXPECT_EQ(page().SelectStmt + "/" + page().pgcaption + "/" + page().keyreq, "Select 1/The shop/K");
+    EXPECT_EQ(page().pgflags, rtlFlag | anonymousFlag);
+}
+
+TEST_F(PagePropertiesWindow, FaultsKeepTheDialogOpenUntilTheyAreMended)
+{
+    open();
+    field("imgfn").setText(" C:\\pic.bmp ");
+    refused("Invalid background file name.  To change the directory, use \"File... Directory\".", "imgfn");
+    field("imgfn").clear();
+    field("sndfn").setText("none.wav");
+    refused("Invalid sound file name.  To change the directory, use \"File... Directory\".", "sndfn");
+    field("sndfn").clear();
+    field("bkght").setText("0");
+    refused("Invalid background height.", nullptr);
+    field("bkght").setText("300"); // as it was at first
+    field("bkgwd").setText(QString::number(dialog()->screen()->size().width() + 1));
+    refused("Invalid background width.", nullptr);
+    field("bkgwd").setText("401");
+    press("ok");
+    EXPECT_EQ(dialog(), nullptr);
+    EXPECT_EQ(page().bkght, 300);
+    EXPECT_EQ(page().bkgwd, 401);
+}
+
+TEST_F(PagePropertiesWindow, PageTypeShowsTableAndStatement)
+{
+    const std::vector<std::string> expected{"111000", "000000", "111111", "000000", "111000"};
+    for (std::int16_t type = 0; type < 5; ++type) {
+        page().PageType = type;
+        open();
+        EXPECT_EQ(field<QComboBox>("PageType").currentIndex(), type);
+        EXPECT_EQ(shown(), expected[static_cast<std::size_t>(type)]) << type;
+        const int other = (type + 2) % 5;
+        field<QComboBox>("PageType").setCurrentIndex(other);
+        EXPECT_EQ(shown(), expected[static_cast<std::size_t>(other)]) << type << " to " << other;
+        press("cancbut");
+    }
+}
+
+TEST_F(PagePropertiesWindow, ImageNameSwitchesTheSizeOff)
+{
+    open();
+    field("imgfn").setText("  ");
+    EXPECT_TRUE(field("bkght").isEnabled());
+    field("imgfn").setText("paper.bmp");
+    for (const char *name : {"bkght", "bkgwd", "bkghtlabel", "bkgwdlabel"})
+        EXPECT_FALSE(field<QWidget>(name).isEnabled()) << name;
+    field("imgfn").clear();
+    EXPECT_TRUE(field("bkgwd").isEnabled());
+}
+
+TEST_F(PagePropertiesWindow, TakesDraggedSourceAndTable)
+{
+    connection().source = "Shop";
+    connection().user = "ann";
+    connection().password = "secret";
+    open();
+    EXPECT_TRUE(drop(field("dsn"), "dsn", "Shop"));
+    EXPECT_EQ(field("dsn").text() + field("Username").text() + field("Password").text(), "Shopannsecret");
+    EXPECT_EQ(field("Password").echoMode(), QLineEdit::Password);
+    EXPECT_TRUE(drop(field("deftbl"), "dbs", "Order Lines"));
+    EXPECT_EQ(field("deftbl").text(), "Order Lines");
+    EXPECT_FALSE(drop(field("deftbl"), "dsn", "Shop"));
+    EXPECT_FALSE(drop(field("dsn"), "fld", "Customers\tName\t0\t40"));
+    EXPECT_EQ(field("deftbl").text() + field("dsn").text(), "Order LinesShop");
+}
+
+TEST_F(PagePropertiesWindow, GenerateSelectsTheWholeTable)
+{
+    page().PageType = 2;
+    page().SelectStmt = "Select 1";
+    open();
+    {
+        ScriptedAsking user;
+        user.expectMessage("No default table.", "Properties Error");
+        press("generate");
+    }
+    EXPECT_EQ(field<QPlainTextEdit>("SelectStmt").toPlainText(), "Select 1");
+    field("deftbl").setText("Order Details");
+    press("generate");
+    EXPECT_EQ(field<QPlainTextEdit>("SelectStmt").toPlainText(), "Select * From \"Order Details\"");
+}
+
+TEST_F(PagePropertiesWindow, SecondOpeningKeepsTheFirst)
+{
+    open();
+    QDialog *first = dialog();
+    field("pgcaption").setText("being typed");
+    open();
+    EXPECT_EQ(dialog(), first);
+    EXPECT_EQ(field("pgcaption").text(), "being typed");
+    press("cancbut");
+    EXPECT_EQ(dialog(), nullptr);
+    EXPECT_EQ(closed, 1);
+}

@@ -1,0 +1,167 @@
+#include "document/events.h"
+#include "document/objects.h"
+#include "platform/asking.h"
+#include "platform/paths.h"
+#include "platform/qt/window_switch.h"
+#include "shell/commands.h"
+#include "shell/ui/hpeabout.h"
+#include "shell/ui/hpsdir.h"
+#include "shell/ui/hpsinput.h"
+#include "shell/ui/objlist.h"
+#include "tests/support/modal_driver.h"
+#include "tests/support/temporary_drive.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTest>
+#include <QTreeWidget>
+
+#include <gtest/gtest.h>
+
+namespace corvanta {
+
+namespace {
+
+class ShellDialogs : public testing::Test {
+protected:
+    ShellDialogs()
+    {
+        documentEvents() = {};
+        page() = Page();
+        editing() = {};
+        laterCommands() = {};
+    }
+    ~ShellDialogs() override
+    {
+        clearObjects();
+        page() = Page();
+        editing() = {};
+        laterCommands() = {};
+        switchableWindows() = {};
+    }
+
+    ModalDriver driver;
+};
+
+template <class Control> Control &child(const QWidget &window, const char *name)
+{
+    return ModalDriver::find<Control>(window, name);
+}
+
+} // namespace
+
+TEST_F(ShellDialogs, InputReturnsATypedTextOnlyAfterOk)
+{
+    const auto press = [](QWidget &w, const char *button) { child<QPushButton>(w, button).click(); };
+    driver.expect("hpsinput", [&](QWidget &w) {
+        EXPECT_EQ(w.windowTitle(), "Rename");
+        auto &line = child<QLineEdit>(w, "inplin");
+        auto &ok = child<QPushButton>(w, "ok");
+        EXPECT_EQ(line.selectedText(), "old");
+        EXPECT_TRUE(ok.isEnabled());
+        QTest::keyClicks(&line, "  ");
+        EXPECT_FALSE(ok.isEnabled());
+        QTest::keyClicks(&line, "new");
+        press(w, "ok");
+    });
+    EXPECT_EQ(showInput("Name:\tRename\told"), "  new");
+    driver.expect("hpsinput", [&](QWidget &w) { press(w, "cancel"); });
+    EXPECT_EQ(showInput("Name:\tRename\told"), "");
+    driver.expect("hpsinput", [&](QWidget &w) {
+        EXPECT_FALSE(child<QPushButton>(w, "ok").isEnabled());
+        QTest::keyClick(&w, Qt::Key_Escape);
+    });
+    EXPECT_EQ(showInput("Name:\tRename"), "");
+}
+
+TEST_F(ShellDialogs, DirectoryIsChosenByItsList)
+{
+    const TemporaryDrive drive;
+    drive.add("pages/deep/x.txt");
+    editing().curdir = "C:\\";
+    const auto choosePages = [](QWidget &w) {
+        auto &list = child<QListWidget>(w, "direclist");
+        ASSERT_EQ(list.count(), 2);
+        list.setCurrentRow(1);
+        emit list.itemActivated(list.item(1));
+        EXPECT_EQ(child<QLabel>(w, "curdirec").text(), "C:\\pages");
+        EXPECT_EQ(list.item(2)->text().trimmed(), "deep");
+    };
+    driver.expect("hpsdir", [&](QWidget &w) {
+        EXPECT_EQ(w.windowTitle(), "Support File Directory");
+        EXPECT_EQ(child<QComboBox>(w, "drivelist").currentText(), "C:");
+        choosePages(w);
+        child<QPushButton>(w, "cancel").click();
+    });
+    showDirectory();
+    EXPECT_EQ(editing().curdir, "C:\\");
+    driver.expect("hpsdir", [&](QWidget &w) {
+        choosePages(w);
+        child<QPushButton>(w, "ok").click();
+    });
+    showDirectory();
+    EXPECT_EQ(editing().curdir, "C:\\PAGES\\");
+}
+
+TEST_F(ShellDialogs, ObjectListChoosesOpensAndDeletes)
+{
+    for (int i = 0; i < 40; ++i)
+        addObject(i % 2 ? Kind::Label : Kind::ComboBox);
+    editing().curobj = 30;
+    QWidget main;
+    switchableWindows() = [&main]() -> std::vector<QWidget *> {
+        return openObjectList() ? std::vector<QWidget *>{openObjectList()} : std::vector<QWidget *>{&main};
+    };
+    laterCommands().openObjectProperties = [] { page().objects[30].ptop = 77; };
+    showObjectList();
+    Objlist *list = openObjectList();
+    ASSERT_NE(list, nullptr);
+    EXPECT_FALSE(main.isEnabled());
+    auto &olist = child<QTreeWidget>(*list, "olist");
+    ASSERT_EQ(olist.topLevelItemCount(), 40);
+    EXPECT_TRUE(olist.topLevelItem(30)->isSelected());
+    EXPECT_EQ(olist.topLevelItem(31)->text(0), "Label");
+
+    olist.verticalScrollBar()->setValue(12);
+    child<QPushButton>(*list, "propbut").click();
+    EXPECT_EQ(olist.topLevelItem(30)->text(1), "77");
+    EXPECT_EQ(olist.indexOfTopLevelItem(olist.itemAt(QPoint(2, 2))), 12);
+
+    olist.setCurrentItem(olist.topLevelItem(3));
+    EXPECT_EQ(editing().curobj, 3);
+    child<QPushButton>(*list, "delbut").click();
+    EXPECT_EQ(objectCount(page()), 39);
+    EXPECT_EQ(editing().curobj, noObject);
+    EXPECT_TRUE(olist.selectedItems().isEmpty());
+    EXPECT_FALSE(child<QPushButton>(*list, "propbut").isEnabled());
+    EXPECT_FALSE(child<QPushButton>(*list, "delbut").isEnabled());
+
+    QDialog *dialog = new QDialog; // a property dialog that is not modal switches off the list alone
+    showSwitchingOff(dialog);
+    EXPECT_FALSE(list->isEnabled());
+    page().objects[0].pleft = 123;
+    dialog->close();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return list->isEnabled(); }));
+    EXPECT_EQ(olist.topLevelItem(0)->text(2), "123");
+    EXPECT_FALSE(main.isEnabled());
+
+    child<QPushButton>(*list, "selbut").click();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return main.isEnabled(); }));
+    EXPECT_EQ(openObjectList(), nullptr);
+}
+
+TEST_F(ShellDialogs, AboutBoxNamesTheProduct)
+{
+    driver.expect("hpeabout", [](QWidget &w) {
+        EXPECT_EQ(w.windowTitle(), "About Corvanta Page Editor");
+        EXPECT_EQ(child<QLabel>(w, "productname").text(), "Corvanta Form Editor");
+        child<QPushButton>(w, "Command1").click();
+    });
+    showAbout();
+}
+
+} // namespace corvanta
