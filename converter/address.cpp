@@ -101,13 +101,6 @@ bool isSafe(std::string_view address)
            hasHost(rest.substr(2));
 }
 
-// The part after the last directory, in UTF-8.
-std::string lastPart(std::string_view path)
-{
-    const std::string name = fileNamePart(trimmed(path));
-    return trimmed(cleanText(name.substr(name.rfind('/') + 1)));
-}
-
 bool isLocalDirectory(std::string_view path)
 {
     return path.starts_with('/') || path.starts_with('\\') || !safeAddress(path);
@@ -126,15 +119,21 @@ std::optional<std::string> safeAddress(std::string_view address)
     return encodedAddress(text);
 }
 
+std::string nameAlone(std::string_view path)
+{
+    const std::string name = fileNamePart(trimmed(path));
+    return trimmed(std::string_view(name).substr(name.rfind('/') + 1));
+}
+
 std::string pageAddress(std::string_view pageName)
 {
-    std::string name = lastPart(pageName);
+    std::string name = cleanText(nameAlone(pageName));
     if (name.size() > 4 && sameText(name.substr(name.size() - 4), ".ods"))
         name.resize(name.size() - 4);
     return percentEncoded(name.empty() ? "TOP" : name, inName) + ".hts";
 }
 
-std::string mediaAddress(std::string_view fileName) { return percentEncoded(lastPart(fileName), inName); }
+std::string mediaAddress(std::string_view fileName) { return percentEncoded(cleanText(nameAlone(fileName)), inName); }
 
 std::string imageAddress(std::string_view path, std::string_view objectName)
 {

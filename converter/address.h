@@ -15,6 +15,9 @@ std::optional<std::string> safeAddress(std::string_view address);
 // The template of a page that an action names: "MENU" and "C:\PAGES\MENU.ODS" give "MENU.hts".
 std::string pageAddress(std::string_view pageName);
 
+// The name of a file without its directories, bytes of the code page.
+std::string nameAlone(std::string_view path);
+
 // A file of the page directory: directories in the name are left out.
 std::string mediaAddress(std::string_view fileName);
 

@@ -30,6 +30,7 @@ constexpr const char *commonRules =
 .grid table{border-collapse:collapse;table-layout:fixed}
 .grid th,.grid td{box-sizing:border-box;height:1.5em;padding:0 3px;border:1px solid #c0c0c0;text-align:start;font-weight:inherit}
 .grid thead{background:#c0c0c0;color:#000}
+.grid thead *{border-color:#808080}
 .whole{display:block;width:100%;height:100%}
 .ticker span{position:absolute;left:100%;white-space:pre;animation:ticker 10s linear infinite}
 .ticker:hover span,.ticker:focus span,.animation:hover img{animation-play-state:paused}
@@ -104,7 +105,7 @@ std::string sound(const Page &p)
         return {};
     return element("audio",
                    " class=\"below\" controls preload=\"none\"" + attribute("src", address) +
-                       attribute("aria-label", p.sndfn),
+                       attribute("aria-label", nameAlone(p.sndfn)),
                    "") +
            "\n";
 }

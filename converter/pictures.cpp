@@ -18,18 +18,6 @@ std::string imageTag(const std::string &attributes, const std::string &address, 
     return "<img" + attributes + attribute("src", address) + attribute("alt", alt) + ">";
 }
 
-// A picture says in words what it shows, or is only decoration.
-std::string titleOfPicture(const ObjectRecord &o) { return optionalAttribute("title", o.sptext); }
-
-std::string labelText(const Template &t, std::int16_t index)
-{
-    const ObjectRecord &o = recordOf(t, index);
-    const std::int16_t label = t.labels.labelOf[static_cast<std::size_t>(index)];
-    if (label != noObject)
-        return withoutMnemonics(elementOf(t.page, label)->Caption, false);
-    return isBlank(o.sptext) ? o.ctlname : o.sptext;
-}
-
 // The steps of one frame: shown from start to end, which are tenths of a second of the whole.
 std::string frameSteps(int start, int end, int whole)
 {
@@ -118,13 +106,13 @@ void writeImage(Template &t, std::int16_t index)
     std::string content = address.empty() ? std::string() : imageTag(" class=\"whole\"", address, "");
     if (acts || !isBlank(o.sptext))
         content += hiddenText(spokenName(t, index, target));
-    t.objects += control(t, index, target, "div", id + titleOfPicture(o), content) + "\n";
+    t.objects += control(t, index, target, "div", id + optionalAttribute("title", o.sptext), content) + "\n";
 }
 
 void writeImageDb(Template &t, std::int16_t index)
 {
     const ObjectRecord &o = recordOf(t, index);
-    const std::string id = attribute("id", idOf(index)), alt = labelText(t, index);
+    const std::string id = attribute("id", idOf(index)), alt = isBlank(o.sptext) ? o.ctlname : o.sptext;
     place(t, index, isBlank(o.ctlname) ? std::string(emptyArea) : "pointer-events:none;");
     if (isBlank(o.ctlname))
         t.objects += element("div", id, isBlank(alt) ? std::string() : hiddenText(alt)) + "\n";
@@ -140,7 +128,8 @@ void writeAnimation(Template &t, std::int16_t index)
     std::string content = stackedFrames(t, index, framesOfAnimation(t, index));
     if (target.kind != Target::Kind::None || !isBlank(o.sptext))
         content += hiddenText(spokenName(t, index, target));
-    const std::string attributes = attribute("id", idOf(index)) + " class=\"animation\"" + titleOfPicture(o);
+    const std::string attributes =
+        attribute("id", idOf(index)) + " class=\"animation\"" + optionalAttribute("title", o.sptext);
     t.objects += control(t, index, target, "div", attributes, content) + "\n";
 }
 

@@ -31,7 +31,10 @@ Target targetOf(std::string_view actionText)
     const Action a = decodeAction(actionText);
     switch (a.code) {
     case action::none: return {};
-    case action::goToPage: return link(pageAddress(valueOf(a, 0)), isBlank(valueOf(a, 0)) ? "TOP" : valueOf(a, 0));
+    case action::goToPage: {
+        const std::string name = nameAlone(valueOf(a, 0));
+        return link(pageAddress(name), isBlank(name) ? "TOP" : name);
+    }
     case action::goToUrl: {
         const auto address = safeAddress(valueOf(a, 0));
         return address ? link(*address, valueOf(a, 0)) : Target{};

@@ -10,8 +10,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include <utility>
-
 namespace corvanta {
 
 namespace {

@@ -7,6 +7,9 @@ source scripts/virtual-screen
 programs=$PWD/build/release/bin
 work=$(mktemp -d)
 export XDG_CONFIG_HOME=$work/config
+# Without the mock toolbar the page begins at the top left of the canvas window.
+mkdir -p "$work/config/corvanta"
+printf '[Corvanta Page Editor]\nShowToolbar= 0\n' >"$work/config/corvanta/CORVANTA.INI"
 editor_pid=
 
 finish() {
@@ -40,7 +43,10 @@ window() { xdotool search --onlyvisible --name "^$1\$" 2>/dev/null | head -n 1; 
 has_window() { [ -n "$(window "$1")" ]; }
 no_window() { [ -z "$(window "$1")" ]; }
 
+# start_editor TITLE FILE: opens a page whose caption is the title.
 start_editor() {
+  canvas_title=$1
+  shift
   "$programs/corvanta" "$@" 2>>"$work/editor.log" &
   editor_pid=$!
   wait_until has_window 'Corvanta Form Editor'
@@ -66,9 +72,20 @@ type_text() {
   sleep 0.2
 }
 
-# The canvas window shows itself with the name of its class.
-canvas_id() { xdotool search --onlyvisible --classname editform 2>/dev/null | head -n 1; }
-canvas_found() { [ -n "$(canvas_id)" ]; }
+# The canvas window has the page's caption; canvas_title names it.
+canvas_title=Page
+canvas_id() { window "$canvas_title"; }
+canvas_found() { has_window "$canvas_title"; }
+
+# Whether a menu hangs open.
+menu_open() {
+  local id
+  for id in $(xdotool search --onlyvisible --class corvanta); do
+    xprop -id "$id" _NET_WM_WINDOW_TYPE 2>/dev/null | grep -q 'MENU' && return 0
+  done
+  return 1
+}
+no_menu() { ! menu_open; }
 
 # The screen position of a widget's window.
 origin_of() { xwininfo -id "$1" | awk '/Absolute upper-left X/ {x=$NF} /Absolute upper-left Y/ {y=$NF} END {print x, y}'; }

@@ -33,6 +33,8 @@ protected:
     {
         connection().pressedButton = button;
         const std::unique_ptr<QMimeData> data(dragData("fld", QByteArray::fromStdString(dragOfColumn(column))));
+        QDragEnterEvent enter(at, Qt::CopyAction, data.get(), Qt::LeftButton, {});
+        QApplication::sendEvent(&form.pageArea(), &enter);
         QDropEvent event(at, Qt::CopyAction, data.get(), Qt::LeftButton, {});
         QApplication::sendEvent(&form.pageArea(), &event);
     }

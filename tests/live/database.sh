@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
 # Runs the tests that need a PostgreSQL server, on one of their own: on loopback, in a temporary folder, stopped at
 # the end.
-#   tests/live/database/run.sh [BINARY]     by default the tests with sanitizers
+#   tests/live/database.sh [BINARY]     by default the tests with sanitizers
 set -euo pipefail
 here=$(dirname "$(readlink -f "$0")")
-root=$(readlink -f "$here/../../..")
+root=$(readlink -f "$here/../..")
 binary=${1:-$root/build/asan/bin/rules_test}
 
 folder=$(mktemp -d)
@@ -44,7 +44,7 @@ done
 
 export PGHOST=127.0.0.1 PGPORT=$port PGUSER=clerk PGPASSWORD=$password PGCLIENTENCODING=UTF8
 psql -q -v ON_ERROR_STOP=1 -c 'CREATE DATABASE shop' postgres
-psql -q -v ON_ERROR_STOP=1 -f "$root/samples/shop.sql" -f "$here/types.sql" shop
+psql -q -v ON_ERROR_STOP=1 -f "$root/samples/shop.sql" -f "$here/database/types.sql" shop
 
 unset PGHOST PGPORT PGUSER PGPASSWORD PGCLIENTENCODING
 CORVANTA_TEST_POSTGRES_PORT=$port \
