@@ -12,7 +12,7 @@ namespace corvanta {
 
 namespace {
 
-constexpr std::size_t titleLength = 70; // characters that search engines and tabs show
+constexpr std::size_t titleLength = 70; // characters that tabs and search engines show, references written out
 
 // Rules by class come before those by id, which differ from object to object.
 constexpr const char *commonRules =
@@ -21,7 +21,7 @@ constexpr const char *commonRules =
 .page>*{position:absolute}
 .page>.field,.page>.file,.page>.grid{border:2px inset #c0c0c0}
 .page>.field{padding:0 2px;resize:none}
-.page>.text{white-space:pre-wrap}
+.page>.text{white-space:pre-wrap;align-content:start}
 .page>.button{display:flex;flex-flow:column wrap;gap:4px;align-items:center;align-content:center;justify-content:center;text-align:center;white-space:pre-wrap;cursor:pointer}
 .page>.file{display:flex}
 .file input{flex:1;min-width:0;font:inherit}
@@ -32,7 +32,7 @@ constexpr const char *commonRules =
 .grid thead{background:#c0c0c0;color:#000}
 .grid thead *{border-color:#808080}
 .whole{display:block;width:100%;height:100%}
-.ticker span{position:absolute;left:100%;white-space:pre;animation:ticker 10s linear infinite}
+.ticker span{position:absolute;top:0;left:100%;white-space:pre;animation:ticker 10s linear infinite}
 .ticker:hover span,.ticker:focus span,.animation:hover img{animation-play-state:paused}
 .animation img{position:absolute}
 dialog p{white-space:pre-wrap}
@@ -76,10 +76,24 @@ const char *typeName(const Page &p)
     return "Page";
 }
 
-std::string pageTitle(const Page &p, std::size_t length)
+std::string heading(const Page &p, std::size_t characters)
 {
-    const std::string caption = oneLine(p.pgcaption, length);
+    const std::string caption = oneLine(p.pgcaption, characters);
     return escapedUtf8(caption.empty() ? typeName(p) : caption);
+}
+
+std::size_t characterCount(const std::string &utf8)
+{
+    return static_cast<std::size_t>(
+        std::count_if(utf8.begin(), utf8.end(), [](unsigned char c) { return (c & 0xC0) != 0x80; }));
+}
+
+std::string title(const Page &p)
+{
+    std::size_t characters = titleLength;
+    while (characterCount(heading(p, characters)) > titleLength)
+        --characters;
+    return heading(p, characters);
 }
 
 std::string pageRule(const Page &p)
@@ -129,7 +143,7 @@ std::string form(const Template &t)
 
 std::string head(const Template &t)
 {
-    return "<meta charset=\"utf-8\">\n" + element("title", "", pageTitle(t.page, titleLength)) +
+    return "<meta charset=\"utf-8\">\n" + element("title", "", title(t.page)) +
            "\n<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n" +
            element("style", "",
                    "\n" + std::string(commonRules) + pageRule(t.page) + belowPage(t.page) + t.style + reducedMotion) +
@@ -143,8 +157,8 @@ std::string htmlTemplate(const Page &p)
     Template t(p);
     for (const std::int16_t index : documentOrder(p))
         writeElement(t, index);
-    const std::string main = "\n" + element("h1", " class=\"hidden\"", pageTitle(p, std::string::npos)) + "\n" +
-                             form(t) + t.dialogs + sound(p);
+    const std::string main = "\n" + element("h1", " class=\"hidden\"", heading(p, std::string::npos)) + "\n" + form(t) +
+                             t.dialogs + sound(p);
     const std::string direction = (p.pgflags & rtlFlag) != 0 ? "rtl" : "ltr";
     return "<!DOCTYPE html>\n" +
            element("html", attribute("lang", language()) + attribute("dir", direction),

@@ -9,6 +9,7 @@
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPainter>
 #include <QScreen>
 #include <QTimer>
 #include <QToolButton>
@@ -25,6 +26,27 @@ constexpr QSize pictureSize(24, 24);
 constexpr double tipBelowPointer = 200, tipMargin = 40; // twips
 constexpr int tipInterval = 500;                        // milliseconds
 constexpr int tipPadding = 4;                           // pixels, above and below together
+
+// The down picture is the up picture in a frame, so that the pressed button stands out on any desktop.
+class PictureButton : public QToolButton {
+public:
+    using QToolButton::QToolButton;
+
+protected:
+    void paintEvent(QPaintEvent *event) override
+    {
+        QToolButton::paintEvent(event);
+        if (!isChecked())
+            return;
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(palette().color(QPalette::Highlight), frameWidth));
+        painter.drawRoundedRect(rect().adjusted(1, 1, -1, -1), frameWidth, frameWidth);
+    }
+
+private:
+    static constexpr int frameWidth = 2; // pixels
+};
 
 QRect onScreen(const QWidget &widget) { return {widget.mapToGlobal(QPoint()), widget.size()}; }
 
@@ -78,7 +100,7 @@ KindButtons::KindButtons(const std::function<QIcon(Kind)> &pictureOf, QWidget *p
 
 void KindButtons::addButton(std::size_t index, const QIcon &picture)
 {
-    auto *button = new QToolButton(this);
+    auto *button = new PictureButton(this);
     button->setObjectName(QStringLiteral("butobj%1").arg(index));
     button->setAccessibleName(kindButtons[index].name);
     button->setIcon(picture);

@@ -27,9 +27,9 @@ PageDialog::PageDialog() : values(LoadPageProperties(page()))
     addPlainGroup(*columns[0], "sound", "&Sound", "sndfn", &PagePropertyFields::sndfn);
     addPageType(*columns[0]);
     addPlainGroup(*columns[0], "caption", "Caption", "pgcaption", &PagePropertyFields::pgcaption);
+    addPlainGroup(*columns[0], "key", "&Key Required:", "keyreq", &PagePropertyFields::keyreq);
     addConnection(*columns[1]);
     addDatabase(*columns[1]);
-    addPlainGroup(*columns[0], "key", "&Key Required:", "keyreq", &PagePropertyFields::keyreq);
     addFlags(*columns[1]);
     addButtons(*this, {{"ok", "OK", [this] { confirm(); }},
                        {"cancbut", "Cancel", [this] { reject(); }},
@@ -103,9 +103,11 @@ void PageDialog::addFlags(QBoxLayout &layout)
 
 void PageDialog::showForType(int pageType)
 {
+    const bool withStatement = showsSelectStatement(pageType);
     database->setVisible(showsDefaultTable(pageType));
-    setFieldVisible(*statement, showsSelectStatement(pageType));
-    generate->setVisible(showsSelectStatement(pageType));
+    database->setSizePolicy(QSizePolicy::Preferred, withStatement ? QSizePolicy::Expanding : QSizePolicy::Fixed);
+    setFieldVisible(*statement, withStatement);
+    generate->setVisible(withStatement);
 }
 
 void PageDialog::generateStatement()

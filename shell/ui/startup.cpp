@@ -20,6 +20,7 @@
 #include "shell/ui/hpsinput.h"
 #include "shell/ui/objlist.h"
 #include "shell/ui/places.h"
+#include "shell/ui/rooms.h"
 
 #include <QApplication>
 #include <QLocale>
@@ -33,6 +34,7 @@ EditorWindows::EditorWindows() : hpsedit(std::make_unique<Hpsedit>())
     connectCommands();
     connectSession();
     connectWindows();
+    installRooms([this]() -> QWidget * { return editform.get(); });
 }
 
 EditorWindows::~EditorWindows()

@@ -35,7 +35,7 @@ function object(kind, index, tail = {}, common = {}) {
 
 const message = { code: 523, title: 'Note', text: `Line one ${awkward}` };
 const actions = [
-    { code: 0 }, { code: 1, page: 'C:\\PAGES\\MENU.ODS' }, { code: 1, page: '' }, { code: 4, user: 'anna' },
+    { code: 0 }, { code: 1, page: 'C:\\PAGES\\MENU.ODS' }, { code: 1, page: '' }, { code: 4, userid: 'anna' },
     { code: 10, url: 'javascript:alert(1)' }, { code: 10, url: 'https://example.com/a b?x=1&y=[2]#c#d' },
     { code: 13, app: 'STOCK', command: '/code @code@' }, { code: 500 }, { code: 508 }, { code: 512, entries: [] },
     { code: 520 }, { code: 521 }, { code: 522 }, message,
@@ -73,6 +73,7 @@ function fieldObjects() {
     for (const srcfile of ['', 'C:\\PHOTOS', '\\\\server\\photos', 'photos', 'http://example.com/photos/'])
         add('imageDb', undefined, { srcfile, ctlname: 'photo of', datacol: 'T.F' });
     add('imageDb');
+    add('grid', {}, { ctlname: '' });
     add('image', undefined, { sptext: awkward, srcfile: 'a "b" c.bmp' });
     add('button', { Caption: awkward, balhelp: awkward }, { srcfile: '..\\x.bmp' });
     add('animation', { nplay: 2, frozen: 1, frames: [{ top: 9, left: 9, duration: 0 }, { top: 5, left: 5, duration: 7 }] },
