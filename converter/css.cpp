@@ -4,8 +4,10 @@
 #include "platform/text.h"
 
 #include <array>
+#include <cctype>
 #include <charconv>
 #include <cmath>
+#include <initializer_list>
 
 namespace corvanta {
 
@@ -47,7 +49,8 @@ std::string family(const std::string &fontName)
         const auto byte = static_cast<unsigned char>(c);
         return byte < 0x80 && c != ' ' && c != '-' && c != '_' && std::isalnum(byte) == 0;
     });
-    return isBlank(name) ? std::string() : "\"" + name + "\",";
+    const bool listed = std::string_view(fallbacks(fontName)).find(name) != std::string_view::npos;
+    return isBlank(name) || listed ? std::string() : "\"" + name + "\",";
 }
 
 std::string decoration(const FontBlock &font)

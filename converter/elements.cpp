@@ -97,8 +97,8 @@ void writeLabel(Template &t, std::int16_t index)
     place(t, index, captionDeclarations(e) + cssAlignment(o.alignment));
     std::string attributes = attribute("id", idOf(index)) + " class=\"text\"" + optionalAttribute("title", o.sptext);
     std::string content = mnemonicCaption(t, e.Caption);
-    if (target.kind != Target::Kind::None && isBlank(e.Caption))
-        content += hiddenText(spokenName(t, index, target));
+    if (target.kind != Target::Kind::None)
+        content = isBlank(e.Caption) ? hiddenText(spokenName(t, index, target)) : element("span", "", content);
     if (field != noObject)
         attributes += attribute("for", idOf(field, kindOf(recordOf(t, field).kind) == Kind::File ? "f" : ""));
     t.objects += control(t, index, target, field == noObject ? "div" : "label", attributes, content) + "\n";

@@ -21,7 +21,8 @@ constexpr const char *commonRules =
 .page>*{position:absolute}
 .page>.field,.page>.file,.page>.grid{border:2px inset #c0c0c0}
 .page>.field{padding:0 2px;resize:none}
-.page>.text{white-space:pre-wrap;align-content:start}
+.page>.text{white-space:pre-wrap}
+.page>button.text{display:flex;flex-direction:column;align-items:stretch;justify-content:flex-start}
 .page>.button{display:flex;flex-flow:column wrap;gap:4px;align-items:center;align-content:center;justify-content:center;text-align:center;white-space:pre-wrap;cursor:pointer}
 .page>.file{display:flex}
 .file input{flex:1;min-width:0;font:inherit}

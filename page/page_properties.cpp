@@ -44,7 +44,7 @@ bool checkPicture(const PicturePtr &picture, ScreenSize screen)
 
 std::int16_t flagsOf(const PagePropertyFields &f)
 {
-    int flags = sizeIsTyped(f.imgfn) ? 0 : sizeFromImage;
+    int flags = f.sizeTyped ? 0 : sizeFromImage;
     flags |= f.rtl ? rtlFlag : 0;
     flags |= f.anonymous ? anonymousFlag : 0;
     flags |= f.replacehtml ? replaceHtmlFlag : 0;
@@ -53,10 +53,11 @@ std::int16_t flagsOf(const PagePropertyFields &f)
 
 void storeBackground(Page &p, const PagePropertyFields &f, const PicturePtr &picture)
 {
+    const bool sizeOfPicture = picture && !f.sizeTyped;
     p.bkgfile = trimmed(f.imgfn);
     p.bkgcol = ParseColourText(f.bkgcol);
-    p.bkght = picture ? static_cast<std::int16_t>(picture->height) : ParseInt16Clamped(f.bkght);
-    p.bkgwd = picture ? static_cast<std::int16_t>(picture->width) : ParseInt16Clamped(f.bkgwd);
+    p.bkght = sizeOfPicture ? static_cast<std::int16_t>(picture->height) : ParseInt16Clamped(f.bkght);
+    p.bkgwd = sizeOfPicture ? static_cast<std::int16_t>(picture->width) : ParseInt16Clamped(f.bkgwd);
     p.background = picture;
     p.sndfn = trimmed(f.sndfn);
 }
@@ -99,6 +100,7 @@ PagePropertyFields LoadPageProperties(const Page &p)
     f.bkgcol = colourText(p.bkgcol);
     f.bkght = std::to_string(p.bkght);
     f.bkgwd = std::to_string(p.bkgwd);
+    f.sizeTyped = (p.pgflags & sizeFromImage) == 0;
     f.PageType = p.PageType;
     f.dsn = connectPart(p, 0);
     f.Username = connectPart(p, 1);

@@ -12,6 +12,7 @@ struct PagePropertyFields {
     std::string imgfn, sndfn;
     std::string bkgcol;       // hexadecimal digits
     std::string bkght, bkgwd; // pixels, decimal
+    bool sizeTyped = true;    // height and width are enabled; else the background image gives them
     int PageType = 0;         // index of the list
     std::string dsn, Username, Password, deftbl;
     std::string SelectStmt, pgcaption, keyreq;

@@ -46,7 +46,7 @@ void PropertyDialog::complete()
 {
     addButtons(*this, {{"ok", "OK", [this] { confirm(); }},
                        {"cancbut", "Cancel", [this] { reject(); }},
-                       {"helpbut", "&Help", [] { showHelp(HelpCommand::Contents); }}});
+                       {"helpbut", "Help", [] { showHelp(HelpCommand::Contents); }}});
     for (const auto &load : loads)
         load();
     CentreDialog(*this);

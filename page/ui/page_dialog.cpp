@@ -44,14 +44,17 @@ void PageDialog::addBackground(QBoxLayout &layout)
     QLineEdit *imgfn = tie(addTextRow(group.fields, "imgfn", "&Image:"), &PagePropertyFields::imgfn);
     QLineEdit *bkgcol = tie(addTextRow(group.fields, "bkgcol", "&Color:"), &PagePropertyFields::bkgcol);
     QPushButton *bkgsel = addButtonBeside(group.fields, "bkgsel", "Select");
-    QLineEdit *bkght = tie(addNumberRow(group.fields, "bkght", "&Height:"), &PagePropertyFields::bkght);
-    QLineEdit *bkgwd = tie(addNumberRow(group.fields, "bkgwd", "&Width:"), &PagePropertyFields::bkgwd);
+    bkght = tie(addNumberRow(group.fields, "bkght", "&Height:"), &PagePropertyFields::bkght);
+    bkgwd = tie(addNumberRow(group.fields, "bkgwd", "&Width:"), &PagePropertyFields::bkgwd);
     connect(bkgsel, &QPushButton::clicked, bkgcol, [bkgcol] { chooseColour(*bkgcol); });
-    connect(imgfn, &QLineEdit::textChanged, imgfn, [bkght, bkgwd](const QString &text) {
-        const bool typed = sizeIsTyped(toBytes(text));
-        setFieldEnabled(*bkght, typed);
-        setFieldEnabled(*bkgwd, typed);
-    });
+    connect(imgfn, &QLineEdit::textChanged, this,
+            [this](const QString &text) { enableSize(sizeIsTyped(toBytes(text))); });
+}
+
+void PageDialog::enableSize(bool typed)
+{
+    setFieldEnabled(*bkght, typed);
+    setFieldEnabled(*bkgwd, typed);
 }
 
 void PageDialog::addPlainGroup(QBoxLayout &layout, const char *name, const QString &caption, const char *field,
@@ -123,6 +126,7 @@ void PageDialog::load()
 {
     for (TiedField &field : texts)
         field.control.show(values.*field.member);
+    enableSize(values.sizeTyped);
     for (const TiedFlag &flag : flags)
         flag.box->setChecked(values.*flag.member);
     types->setCurrentIndex(values.PageType < types->count() ? values.PageType : -1);
@@ -133,6 +137,7 @@ void PageDialog::confirm()
 {
     for (const TiedField &field : texts)
         values.*field.member = field.control.bytes();
+    values.sizeTyped = bkght->isEnabled();
     for (const TiedFlag &flag : flags)
         values.*flag.member = flag.box->isChecked();
     if (types->currentIndex() >= 0)

@@ -45,6 +45,7 @@ private:
     void addConnection(QBoxLayout &layout);
     void addDatabase(QBoxLayout &layout);
     void addFlags(QBoxLayout &layout);
+    void enableSize(bool typed);
     void showForType(int pageType);
     void generateStatement();
     void load();
@@ -53,6 +54,7 @@ private:
     PagePropertyFields values;
     std::vector<TiedField> texts;
     std::vector<TiedFlag> flags;
+    QLineEdit *bkght = nullptr, *bkgwd = nullptr;
     QComboBox *types = nullptr;
     QGroupBox *database = nullptr;
     QLineEdit *deftbl = nullptr;

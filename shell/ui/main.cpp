@@ -1,5 +1,6 @@
 #include "platform/codepage.h"
 #include "shell/ui/hpsedit.h"
+#include "shell/ui/rooms.h"
 #include "shell/ui/startup.h"
 
 #include <CLI/CLI.hpp>
@@ -51,6 +52,8 @@ int main(int argc, char **argv)
     setCodePage(chosenCodePage(line.codePage));
     installDesktop();
     EditorWindows windows;
+    windows.ended = &QApplication::quit;
+    const Rooms rooms(windows);
     windows.start(line.pageFile);
     return QApplication::exec();
 }

@@ -1,12 +1,16 @@
 #include "shell/ui/rooms.h"
 
 #include "canvas/selection.h"
+#include "canvas/ui/editform.h"
+#include "database/ui/odbcdbs.h"
 #include "objects/ui/open_properties.h"
 #include "page/export_html.h"
 #include "page/ui/pgprops.h"
-#include "platform/qt/window_switch.h"
 #include "shell/commands.h"
 #include "shell/ui/aniply.h"
+#include "shell/ui/hpsedit.h"
+#include "shell/ui/icons.h"
+#include "shell/ui/startup.h"
 
 namespace corvanta {
 
@@ -21,13 +25,34 @@ void openCurrentProperties()
 
 } // namespace
 
-void installRooms(std::function<QWidget *()> owner)
+Rooms::Rooms(EditorWindows &windows) : editor(windows)
 {
     LaterCommands &commands = laterCommands();
     commands.openObjectProperties = openCurrentProperties;
     commands.openPageProperties = [] { openPageProperties(); };
     commands.exportHtml = ConvertToHtml;
-    commands.playAnimation = [owner] { showPlayer(owner()); };
+    commands.playAnimation = [this] { showPlayer(editor.canvas()); };
+    commands.toggleOdbc = [this](bool shown) { showOdbc(shown); };
+}
+
+Rooms::~Rooms()
+{
+    LaterCommands &commands = laterCommands();
+    commands.openObjectProperties = {};
+    commands.openPageProperties = {};
+    commands.exportHtml = {};
+    commands.playAnimation = {};
+    commands.toggleOdbc = {};
+}
+
+void Rooms::showOdbc(bool shown)
+{
+    if (!odbcdbs && shown) {
+        odbcdbs = std::make_unique<Odbcdbs>(editor.main(), kindIcon);
+        odbcdbs->closed = odbcToolbarClosed;
+    }
+    if (odbcdbs)
+        odbcdbs->setVisible(shown);
 }
 
 } // namespace corvanta

@@ -1,6 +1,7 @@
 #include "shell/ui/startup.h"
 
 #include "canvas/running.h"
+#include "canvas/ui/drop_field.h"
 #include "canvas/ui/editform.h"
 #include "document/events.h"
 #include "document/page_file.h"
@@ -20,9 +21,7 @@
 #include "shell/ui/hpsinput.h"
 #include "shell/ui/objlist.h"
 #include "shell/ui/places.h"
-#include "shell/ui/rooms.h"
 
-#include <QApplication>
 #include <QLocale>
 
 #include <cmath>
@@ -34,7 +33,6 @@ EditorWindows::EditorWindows() : hpsedit(std::make_unique<Hpsedit>())
     connectCommands();
     connectSession();
     connectWindows();
-    installRooms([this]() -> QWidget * { return editform.get(); });
 }
 
 EditorWindows::~EditorWindows()
@@ -86,9 +84,10 @@ void EditorWindows::connectSession()
 void EditorWindows::connectWindows()
 {
     hpsedit->mayClose = querySave;
-    hpsedit->closed = [] {
+    hpsedit->closed = [this] {
         endSession();
-        QApplication::exit();
+        if (ended)
+            ended();
     };
     switchableWindows() = [this]() -> std::vector<QWidget *> {
         if (Objlist *list = openObjectList())
@@ -108,6 +107,9 @@ void EditorWindows::loadCanvas()
     commands.openProperties = [] { runCommand(Command::ObjectProperties); };
     commands.deleteCurrent = [] { runCommand(Command::Delete); };
     commands.currentChanged = [this] { hpsedit->refreshCommands(); };
+    commands.fieldDropped = [](QPoint at, const QByteArray &payload) {
+        dropField({at.x(), at.y()}, payload.toStdString());
+    };
     commands.closeRequested = [this] { hpsedit->close(); };
 }
 

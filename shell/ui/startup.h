@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -18,6 +19,8 @@ public:
 
     // Shows the windows with a new page or the page file of the command line (host or drive path, UTF-8).
     void start(const std::string &pageFile);
+
+    std::function<void()> ended; // the main window was closed and the session is over
 
     Hpsedit &main() { return *hpsedit; }
     Editform *canvas() { return editform.get(); } // none before the start and after the end

@@ -35,7 +35,7 @@ TEST(ConverterLabels, TheNearestLabelToTheLeftOrAboveIsTaken)
     const auto nearer = addCaptioned(p, Kind::Label, "nearer above", 190, 79);
     EXPECT_EQ(nearestLabel(p, field), nearer);
     p.pgflags |= rtlFlag;
-    EXPECT_EQ(nearestLabel(p, addTo(p, Kind::TextBox, 200, 300)), nearer);
+    EXPECT_EQ(nearestLabel(p, field), nearer);
     const auto right = addCaptioned(p, Kind::Label, "right of a right-to-left field", 302, 300);
     EXPECT_EQ(nearestLabel(p, addTo(p, Kind::TextBox, 200, 300)), right);
 }
@@ -45,7 +45,7 @@ TEST(ConverterLabels, EachFieldHasALabelAReferenceOrAText)
     Page p;
     const auto label = addCaptioned(p, Kind::Label, "&City:", 0, 0);
     const auto far = addTo(p, Kind::ComboBox, 300, 0), near = addTo(p, Kind::TextBox, 110, 0);
-    const auto told = addTo(p, Kind::File, 0, 300), named = addTo(p, Kind::TextBox, 200, 300);
+    const auto told = addTo(p, Kind::File, 150, 300), named = addTo(p, Kind::TextBox, 300, 300);
     recordAt(p, told).sptext = "Status";
     recordAt(p, named).ctlname = "amount";
     EXPECT_EQ(elementLine(p, label), "<label id=\"o0\" class=\"text\" for=\"o2\">City:</label>");

@@ -81,6 +81,8 @@ TEST_F(PageProperties, PictureGivesThePageItsSizeWhenItFitsTheScreen)
     ASSERT_TRUE(writeWholeFile("C:\\PAPER.BMP", "x"));
     PagePropertyFields f = LoadPageProperties(page());
     f.imgfn = " paper.bmp ";
+    f.sizeTyped = false;
+    f.sizeTyped = false;
     picture = pictureOf(640, 601);
     refused("Invalid picture's height.", "", f);
     picture = pictureOf(801, 480);
@@ -92,9 +94,22 @@ TEST_F(PageProperties, PictureGivesThePageItsSizeWhenItFitsTheScreen)
     EXPECT_EQ(page().bkght, 480);
     EXPECT_TRUE(page().pgflags & sizeFromImage);
     f.imgfn.clear();
+    f.sizeTyped = true;
     ASSERT_TRUE(ConfirmPageProperties(f, screen).stored);
     EXPECT_FALSE(page().pgflags & sizeFromImage);
     EXPECT_EQ(page().background, nullptr);
+}
+
+TEST_F(PageProperties, TypedSizeStaysBesideAPicture)
+{
+    ASSERT_TRUE(writeWholeFile("C:\\PAPER.BMP", "x"));
+    picture = pictureOf(640, 480);
+    page().bkgfile = "paper.bmp";
+    const std::string before = serialisePage(page());
+    page().dbconnect += '\t';
+    ASSERT_TRUE(ConfirmPageProperties(LoadPageProperties(page()), screen).stored);
+    page().dbconnect.pop_back();
+    EXPECT_EQ(serialisePage(page()), before);
 }
 
 TEST_F(PageProperties, ConnectionTextHasThreeTabs)

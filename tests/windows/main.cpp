@@ -9,10 +9,10 @@
 
 namespace {
 
-// The offscreen platform says this of every window.
+// The offscreen platform says these of every window.
 void printMessage(QtMsgType, const QMessageLogContext &, const QString &text)
 {
-    if (!text.contains("propagateSizeHints"))
+    if (!text.contains("This plugin does not support") && !text.contains("grabbing the keyboard"))
         std::fprintf(stderr, "%s\n", qPrintable(text));
 }
 
