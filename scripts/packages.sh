@@ -16,8 +16,10 @@ TEST_PACKAGES=(
 # Left out by ./test --quick: servers, browsers, the virtual screen's tools.
 FULL_TEST_PACKAGES=(
   xvfb openbox xdotool imagemagick x11-utils libsqliteodbc odbc-postgresql postgresql sqlite3
-  fonts-liberation fonts-dejavu-core
+  fonts-liberation fonts-dejavu-core chromium
 )
+command -v node >/dev/null || FULL_TEST_PACKAGES+=(nodejs npm)
+command -v java >/dev/null || FULL_TEST_PACKAGES+=(default-jre-headless)
 
 # Installs those of the named packages that are missing.
 install_packages() {

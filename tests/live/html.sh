@@ -1,0 +1,47 @@
+#!/usr/bin/env bash
+# The HTML templates of all sample pages and of a gallery with every kind and action: html-validate, the Nu checker, axe
+# and the boxes of all elements, in headless Chromium. Also calls the converter library as other programs do.
+#   tests/live/html.sh [--pictures FOLDER]     pictures of the templates go to the folder
+set -euo pipefail
+cd "$(dirname "$(readlink -f "$0")")/../.."
+programs=$PWD/build/release/bin
+tools=$PWD/build/html-check
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+
+if ! node -e 'process.exit(Number(process.versions.node.split(".")[0]) >= 20 ? 0 : 1)' 2>/dev/null; then
+  echo "Left out: the checkers need Node 20 or later."
+  exit 0
+fi
+mkdir -p "$tools"
+cp tests/live/html/* "$tools/"
+if ! cmp -s "$tools/package.json" "$tools/installed.json"; then
+  (cd "$tools" && npm install --ignore-scripts --no-package-lock --no-audit --no-fund --silent)
+  cp "$tools/package.json" "$tools/installed.json"
+fi
+
+cp -r tests/data/pages "$work/data"
+cp -r samples "$work/samples"
+rm -f "$work/data/"*.hdo*
+(cd "$tools" && node gallery.mjs "$work/gallery")
+for json in "$work/gallery/"*.json; do
+  "$programs/odspage" build "$json" "${json%.json}.ods"
+done
+for page in "$work/samples/"*.ods; do
+  "$programs/odspage" dump "$page" >"${page%.ods}.json"
+done
+"$programs/ods2hts" "$work"/{data,samples,gallery}/*.ods
+
+python3 - "$programs/libods2hts.so" "$work/samples/menu.ods" <<'PY'
+import ctypes, os, sys
+library, page = ctypes.CDLL(sys.argv[1]), sys.argv[2]
+library.ConvertOdsHts.restype = ctypes.c_int16
+template = page[:-3] + "hts"
+kept = open(template, "rb").read()
+os.remove(template)
+assert library.ConvertOdsHts(("C:" + page.replace("/", "\\")).encode("cp1252")) != 0
+assert open(template, "rb").read() == kept, "the library's template differs from the command's"
+assert library.ConvertOdsHts(b"C:\\no\\such\\page.ods") == 0
+PY
+
+(cd "$tools" && node check.mjs "$@" "$work/data" "$work/samples" "$work/gallery")
