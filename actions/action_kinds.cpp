@@ -88,4 +88,6 @@ const ActionKind &actionKind(std::int16_t code)
     return known ? table()[static_cast<std::size_t>(code)] : empty;
 }
 
+std::string actionCaption(std::string_view text) { return actionKind(ActionCode(text)).caption; }
+
 } // namespace corvanta

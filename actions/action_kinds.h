@@ -22,5 +22,7 @@ void BuildActionKinds(); // fills the table; called once at start-up
 std::int16_t FindActionKind(std::string_view caption);
 // The kind's entry; an empty one for codes outside the table.
 const ActionKind &actionKind(std::int16_t code);
+// What a list shows for an action: its kind's caption, empty for kinds that are not offered.
+std::string actionCaption(std::string_view text);
 
 } // namespace corvanta

@@ -8,16 +8,6 @@
 
 namespace corvanta {
 
-namespace {
-
-bool hasMembers()
-{
-    const auto &objects = page().objects;
-    return std::any_of(objects.begin(), objects.end(), [](const ObjectRecord &o) { return o.selslot > 0; });
-}
-
-} // namespace
-
 void objectEntersCanvas(std::int16_t index)
 {
     if (!hasObject(page(), index))

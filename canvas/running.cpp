@@ -1,6 +1,7 @@
 #include "canvas/running.h"
 
 #include "canvas/events.h"
+#include "document/media.h"
 #include "document/objects.h"
 #include "platform/clock.h"
 #include "platform/multimedia.h"
@@ -27,7 +28,7 @@ void showFrame(std::int16_t element, AnimationRun &run, std::int16_t position)
     run.frameStart = clockTenths();
     const std::string sound = frameAt(run).sound;
     tell(runningEvents().showFrame, element, run.frames[static_cast<std::size_t>(position)]);
-    if (!sound.empty())
+    if (!sound.empty() && plainFileName(sound))
         mciSendString("Play " + editing().curdir + sound);
 }
 

@@ -1,5 +1,6 @@
 #include "canvas/selection.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace corvanta {
@@ -85,6 +86,12 @@ void hideFrameMarkers(std::int16_t index)
         tell(canvasEvents().hideFrameMarkers, record(index).selslot);
 }
 
+bool hasMembers()
+{
+    const auto &objects = page().objects;
+    return std::any_of(objects.begin(), objects.end(), [](const ObjectRecord &o) { return o.selslot > 0; });
+}
+
 void toggleMultiSelection(std::int16_t index)
 {
     if (!hasObject(page(), index))
@@ -92,6 +99,8 @@ void toggleMultiSelection(std::int16_t index)
     if (inMultiSelection(index)) {
         editing().multcount = record(index).selslot;
         removeFromMultiSelection(index);
+        if (!hasMembers()) // the commands act on the current object again
+            editing().multcount = 0;
         return;
     }
     if (editing().multcount == 0 && hasCurrentObject() && editing().curobj != index)

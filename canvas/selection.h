@@ -18,6 +18,7 @@ void showTrackers();
 void hideTrackers();
 
 bool inMultiSelection(std::int16_t index);
+bool hasMembers(); // whether any object is in the multi-selection
 // Gives the object the lowest free slot, which multcount takes too. A member keeps its slot.
 void addToMultiSelection(std::int16_t index);
 // Frees the object's slot; multcount stays.

@@ -110,8 +110,10 @@ std::vector<int> frameNumbers(const Page &p, std::int16_t element)
 {
     std::vector<int> numbers;
     const std::string &list = p.aniextras.at(static_cast<std::size_t>(element)).frames;
-    for (int i = 0; i < fieldCount(list); ++i) {
-        const double number = leadingNumber(fieldAt(list, i));
+    for (std::string_view left = list; !left.empty();) {
+        const std::string_view field = left.substr(0, left.find('\t'));
+        left.remove_prefix(std::min(left.size(), field.size() + 1));
+        const double number = leadingNumber(field);
         if (number >= 1 && number < static_cast<double>(p.frames.size()))
             numbers.push_back(static_cast<int>(number));
     }

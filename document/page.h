@@ -5,7 +5,9 @@
 #include "platform/pictures.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 // The page in memory. Geometry is 16-bit pixels of the page, colours are 0x00BBGGRR (or 0x80 in the
@@ -143,6 +145,8 @@ struct EditingState {
     std::string filetag; // full drive path of the page's file; empty for a new page
     std::string curdir;  // page directory, ends with "\"
     bool msgflag = false;
+    // The size in the file of a page that has none, while the canvas lends it the window's; forgotten with a new page.
+    std::optional<std::pair<std::int16_t, std::int16_t>> lentSize; // width, height
 };
 
 // The one page of the editor and its editing state.

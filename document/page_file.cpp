@@ -9,6 +9,8 @@
 #include "platform/paths.h"
 #include "platform/text.h"
 
+#include <tuple>
+
 namespace corvanta {
 
 namespace {
@@ -37,6 +39,28 @@ std::string directoryOfFile(const std::string &path)
 {
     const std::string directory = directoryPart(path);
     return directory.empty() ? withTrailingBackslash(currentDirectory()) : directory;
+}
+
+// What saving the process-wide page writes. Until the first edit a page without a size stays one, also while the canvas
+// shows it at the window's size.
+std::string pageText()
+{
+    const auto &own = editing().lentSize;
+    if (!own || editing().pagedirty)
+        return serialisePage(page());
+    const auto shown = std::pair(page().bkgwd, page().bkght);
+    std::tie(page().bkgwd, page().bkght) = *own;
+    std::string text = serialisePage(page());
+    std::tie(page().bkgwd, page().bkght) = shown;
+    return text;
+}
+
+// An edited page has the size that it was shown with from now on.
+void markSaved()
+{
+    if (editing().pagedirty)
+        editing().lentSize.reset();
+    editing().pagedirty = false;
 }
 
 FileDialog savePageDialog()
@@ -128,6 +152,7 @@ void newPage()
 {
     clearObjects();
     page() = Page();
+    editing().lentSize.reset();
     setFileTag("");
     call(documentEvents().showCanvas);
     call(documentEvents().pageLayout);
@@ -148,18 +173,18 @@ bool savePage()
 {
     if (editing().filetag.empty())
         return savePageAs();
-    if (!writeWholeFile(fileNamePart(editing().filetag), serialisePage(page())))
+    if (!writeWholeFile(fileNamePart(editing().filetag), pageText()))
         return false;
-    editing().pagedirty = false;
+    markSaved();
     return true;
 }
 
 bool savePageAs()
 {
     const auto path = asking().fileDialog ? asking().fileDialog(savePageDialog()) : std::nullopt;
-    if (!path || path->empty() || !writeWholeFile(*path, serialisePage(page())))
+    if (!path || path->empty() || !writeWholeFile(*path, pageText()))
         return false;
-    editing().pagedirty = false;
+    markSaved();
     setFileTag(*path);
     editing().curdir = directoryOfFile(*path);
     return true;

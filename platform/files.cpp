@@ -203,9 +203,11 @@ FileContent readHostFile(const std::filesystem::path &file, std::uintmax_t limit
     const Descriptor opened(open(file.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
     struct stat status;
     if (!opened || fstat(opened.get(), &status) != 0) {
-        content.missing = errno == ENOENT || errno == ENOTDIR;
-        if (!content.missing)
-            content.error = description(errno);
+        const int reason = errno;
+        std::error_code unknown;
+        content.missing = reason == ENOENT || reason == ENOTDIR;
+        if (!content.missing || !std::filesystem::is_directory(absolute(file).parent_path(), unknown))
+            content.error = description(reason);
         return content;
     }
     int error = irregularFileError(status);

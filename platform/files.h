@@ -11,7 +11,7 @@ namespace corvanta {
 struct FileContent {
     std::string bytes;
     std::uintmax_t length = 0; // the file's length, also when it was not read
-    bool missing = false;      // no such file
+    bool missing = false;      // no such file; with an error as well, no such folder
     bool tooLarge = false;     // longer than the limit; bytes is empty
     std::string error;         // any other failure; empty on success
 };

@@ -13,7 +13,7 @@ struct Picture {
 };
 using PicturePtr = std::shared_ptr<const Picture>;
 
-// Loads a picture file (BMP in all depths, RLE, GIF, ICO, JPEG, PNG, WMF) by drive path; none when it
+// Loads a picture file (BMP in all depths, RLE, GIF, ICO, JPEG, PNG) by drive path; none when it
 // cannot be loaded. Empty without a desktop: then nothing loads and nobody is told.
 std::function<PicturePtr(const std::string &drivePath)> &pictureLoader();
 

@@ -61,7 +61,8 @@ std::string withGuardedBlanks(std::string text)
 bool readProfile(std::string_view fileName, CSimpleIniA &ini)
 {
     const FileContent content = readHostFile(profilePath(fileName), profileLimit);
-    if (!content.error.empty() || content.tooLarge || content.bytes.find('\0') != std::string::npos)
+    if ((!content.error.empty() && !content.missing) || content.tooLarge ||
+        content.bytes.find('\0') != std::string::npos)
         return false;
     ini.SetUnicode();
     ini.SetMultiKey();

@@ -2,7 +2,8 @@
 
 BUILD_PACKAGES=(
   g++ cmake ninja-build ccache pkg-config
-  qt6-base-dev qt6-base-dev-tools libgl-dev libsdl2-mixer-dev unixodbc-dev
+  qt6-base-dev qt6-base-dev-tools qt6-tools-dev qt6-documentation-tools libqt6sql6-sqlite
+  libgl-dev libsdl2-mixer-dev unixodbc-dev
   nlohmann-json3-dev libcli11-dev libsimpleini-dev libgtest-dev libbenchmark-dev
 )
 # Needed by the running editor; the second line serves machines without a display.
@@ -16,7 +17,7 @@ TEST_PACKAGES=(
 # Left out by ./test --quick: servers, browsers, the virtual screen's tools.
 FULL_TEST_PACKAGES=(
   xvfb openbox xdotool imagemagick x11-utils libsqliteodbc odbc-postgresql postgresql sqlite3
-  fonts-liberation fonts-dejavu-core chromium
+  fonts-liberation fonts-dejavu-core chromium pulseaudio pulseaudio-utils
 )
 command -v node >/dev/null || FULL_TEST_PACKAGES+=(nodejs npm)
 command -v java >/dev/null || FULL_TEST_PACKAGES+=(default-jre-headless)

@@ -1,6 +1,7 @@
 #include "shell/commands.h"
 
 #include "canvas/gestures.h"
+#include "canvas/selection.h"
 #include "document/events.h"
 #include "document/kinds.h"
 #include "document/object_file.h"
@@ -181,8 +182,14 @@ void addFromMenu(int menuIndex)
     });
     if (entry == registry.end())
         return;
-    if (const auto kind = kindOf(entry->code); kind && addObject(*kind) != noObject)
-        pageEdited();
+    const auto kind = kindOf(entry->code);
+    const std::int16_t index = kind ? addObject(*kind) : noObject;
+    if (index == noObject)
+        return;
+    clearMultiSelection();
+    selectObject(index); // so that the next command acts on what the author sees appear
+    showTrackers();
+    pageEdited();
 }
 
 void deleteSelection()

@@ -27,12 +27,23 @@ bool isDrivePath(std::string_view path)
     return letter || (path.find('\\') != std::string_view::npos && path.find('/') == std::string_view::npos);
 }
 
+// A drive path from the drive's root on.
+std::string absoluteDrivePath(const std::string &path)
+{
+    const std::string here = withTrailingBackslash(currentDirectory());
+    const bool drive = path.size() > 1 && path[1] == ':';
+    const std::string rest = drive ? path.substr(2) : path;
+    if (rest.starts_with('\\'))
+        return (drive ? path.substr(0, 2) : here.substr(0, 2)) + rest;
+    return !drive || sameText(path.substr(0, 2), here.substr(0, 2)) ? here + rest : path;
+}
+
 std::string drivePathOfArgument(std::string_view argument)
 {
     if (isDrivePath(argument)) {
         std::string path = fromUtf8Lossy(argument);
         std::replace(path.begin(), path.end(), '/', '\\');
-        return path;
+        return absoluteDrivePath(path);
     }
     const std::string path = drivePath(std::filesystem::path(argument));
     return path.empty() ? fromUtf8Lossy(argument) : path;

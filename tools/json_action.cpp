@@ -78,12 +78,15 @@ std::string readParameters(JsonReader &reader, std::int16_t code)
     return encodeAction(read);
 }
 
-std::string readRaw(JsonReader &reader, std::int16_t code)
+// The bytes behind "raw"; the named form beside them must say the same.
+std::string readRaw(JsonReader &reader, std::int16_t code, std::string_view named)
 {
     const std::string bytes = bytesOf(reader.value("raw"), reader.pathOf("raw"));
     if (ActionCode(bytes) != code)
         reader.refuse("raw", "these bytes are of code " + std::to_string(ActionCode(bytes)) + ", not of code " +
                                  std::to_string(code));
+    if (decodeAction(bytes).values != decodeAction(named).values)
+        reader.refuse("raw", "these bytes hold other parameters than the named ones");
     return bytes;
 }
 
@@ -98,7 +101,7 @@ std::string actionFromJson(const Json &value, const std::string &path)
     reader.int16("code", code);
     std::string text = code == action::list ? readEntries(reader) : readParameters(reader, code);
     if (reader.has("raw"))
-        text = readRaw(reader, code);
+        text = readRaw(reader, code, text);
     reader.finish();
     return text;
 }

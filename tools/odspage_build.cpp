@@ -37,6 +37,10 @@ int build(ToolRun &run, const BuildArguments &arguments)
         complain(run, arguments.input, error.what());
         return 1;
     }
+    if (arguments.output.empty()) {
+        complain(run, "OUT", "no file name");
+        return 1;
+    }
     if (const auto error = writeHostFileAtomically(std::filesystem::absolute(arguments.output), bytes)) {
         complain(run, arguments.output, toUtf8(*error));
         return 1;

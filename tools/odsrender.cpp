@@ -21,6 +21,8 @@
 
 namespace {
 
+constexpr std::int64_t mostPixels = 64'000'000;
+
 using namespace corvanta;
 
 constexpr int failed = 1, wrongUsage = 2;
@@ -64,11 +66,13 @@ QImage renderedPage(Page &p)
 
 int render(const Job &job)
 {
-    const std::string path = drivePath(std::filesystem::absolute(job.input));
+    const std::string path = job.input.empty() ? std::string() : drivePath(std::filesystem::absolute(job.input));
     if (const std::string reason = obstacle(path); !reason.empty())
         return fail(job.input, reason);
     editing().curdir = directoryPart(path);
     openPage(path);
+    if (std::int64_t{page().bkgwd} * page().bkght > mostPixels)
+        return fail(job.input, "the page is too large for a picture");
     if (!renderedPage(page()).save(QString::fromStdString(job.output), "PNG"))
         return fail(job.output, "cannot be written");
     return 0;
@@ -99,7 +103,7 @@ int main(int argc, char **argv)
     } catch (const CLI::ParseError &error) {
         return usage.exit(error) == 0 ? 0 : wrongUsage;
     }
-    setenv("QT_QPA_PLATFORM", "offscreen", 0);
+    setenv("QT_QPA_PLATFORM", "offscreen", 1);
     qInstallMessageHandler(tellOnlyFailures);
     QGuiApplication application(argc, argv);
     registerFontSubstitutions();

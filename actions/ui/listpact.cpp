@@ -1,4 +1,4 @@
-#include "actions/action_list.h"
+#include "actions/action_kinds.h"
 #include "actions/ui/actinput.h"
 #include "actions/ui/action_dialog.h"
 #include "actions/ui/action_dialogs.h"

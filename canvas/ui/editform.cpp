@@ -77,21 +77,12 @@ void Editform::resizeToPage()
 {
     const Page &p = page();
     const QSize pageSize(p.bkgwd, p.bkght);
-    const QSize wanted = pageSize.boundedTo(screenRoom()) + QSize(0, frameHeight());
+    fitted = pageSize.boundedTo(screenRoom());
+    const QSize wanted = fitted + QSize(0, frameHeight());
     if (pageSize.isEmpty() || size() == wanted)
         return;
-    if (!settling.isActive())
-        superseded.clear();
-    superseded.append(size());
     settling.start();
     resize(wanted);
-}
-
-// A window system reports sizes some time after they were asked for: one that was replaced meanwhile is not
-// the user's.
-bool Editform::isLateAnswer(const QResizeEvent &event) const
-{
-    return event.spontaneous() && settling.isActive() && superseded.contains(event.size());
 }
 
 void Editform::showMockToolbar(bool shown)
@@ -127,6 +118,7 @@ void Editform::takeMissingSize()
     Page &p = page();
     if (!isVisible() || (p.bkgwd > 0 && p.bkght > 0))
         return;
+    editing().lentSize = {{p.bkgwd, p.bkght}};
     if (p.bkgwd <= 0)
         p.bkgwd = toPixels(innerSize().width());
     if (p.bkght <= 0)
@@ -134,15 +126,15 @@ void Editform::takeMissingSize()
     unasked = {p.bkgwd, p.bkght};
 }
 
-// What does not fit on the screen is larger than its window; such a page keeps that side when the window shrinks.
+// A page that did not fit on the screen keeps that side, unless the window has become larger still.
 void Editform::takeSizeFromWindow()
 {
     Page &p = page();
     const auto side = [](std::int16_t current, int shown, int room) {
-        return shown <= 0 || (current > room && shown <= room) ? current : toPixels(shown);
+        return shown <= 0 || (current > room && shown <= current) ? current : toPixels(shown);
     };
-    const std::int16_t width = side(p.bkgwd, innerSize().width(), screenRoom().width());
-    const std::int16_t height = side(p.bkght, innerSize().height(), screenRoom().height());
+    const std::int16_t width = side(p.bkgwd, innerSize().width(), fitted.width());
+    const std::int16_t height = side(p.bkght, innerSize().height(), fitted.height());
     const QSize before(p.bkgwd, p.bkght);
     if (before == QSize(width, height))
         return;
@@ -168,8 +160,8 @@ void Editform::repaintPage() { visuals.refreshAll(); }
 
 void Editform::resizeEvent(QResizeEvent *event)
 {
-    if (!inLayout && !isLateAnswer(*event) && isVisible() && isNormal() && editing().msgflag &&
-        (page().pgflags & sizeFromImage) == 0)
+    const bool late = event->spontaneous() && settling.isActive(); // the window system's answer to a size of ours
+    if (!inLayout && !late && isVisible() && isNormal() && editing().msgflag && (page().pgflags & sizeFromImage) == 0)
         takeSizeFromWindow();
     arrange();
 }
@@ -178,6 +170,16 @@ void Editform::showEvent(QShowEvent *)
 {
     applyPageLayout();
     area->setFocus();
+}
+
+// Back in the normal state the window takes the page's size, which may have changed meanwhile.
+void Editform::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::WindowStateChange || !isNormal() || !isVisible())
+        return;
+    settling.start();
+    QTimer::singleShot(0, this, [this] { applyPageLayout(); });
 }
 
 void Editform::closeEvent(QCloseEvent *event)

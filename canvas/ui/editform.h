@@ -6,7 +6,6 @@
 #include "canvas/ui/trackers.h"
 #include "canvas/ui/visuals.h"
 
-#include <QList>
 #include <QTimer>
 #include <QWidget>
 
@@ -36,6 +35,7 @@ public:
 protected:
     void resizeEvent(QResizeEvent *event) override;
     void showEvent(QShowEvent *event) override;
+    void changeEvent(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
@@ -48,7 +48,6 @@ private:
     void takeMissingSize();
     void takeSizeFromWindow();
     void resizeToPage();
-    bool isLateAnswer(const QResizeEvent &event) const;
     void arrange();
     void listenToDocument();
     void listenToCanvas();
@@ -66,10 +65,10 @@ private:
     Visuals visuals;
     CanvasInput input;
     QTimer objtimer;
-    QTimer settling;         // runs while the window system may still answer to a size of ours
-    QList<QSize> superseded; // sizes that this one has taken the place of
-    bool inLayout = false;   // resizes are of the program's making
-    QSize unasked;           // page size that a new page took from the window
+    QTimer settling;       // runs while the window system may still answer to a size of ours
+    QSize fitted;          // the part of the page that the window showed when it took the page's size
+    bool inLayout = false; // resizes are of the program's making
+    QSize unasked;         // page size that a new page took from the window
 };
 
 } // namespace corvanta

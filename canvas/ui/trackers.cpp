@@ -46,6 +46,7 @@ QWidget *newGroupFrame(QWidget &area)
     QPalette colours = frame->palette();
     colours.setColor(QPalette::WindowText, markerColour);
     frame->setPalette(colours);
+    frame->setForegroundRole(QPalette::WindowText);
     frame->hide();
     return frame;
 }
@@ -105,6 +106,7 @@ void Trackers::loadMarkers(int slot)
     while (trboxf.size() < static_cast<std::size_t>(slot) * handleCount) {
         const auto n = static_cast<int>(trboxf.size());
         auto *box = new HandleBox(pageArea, QStringLiteral("trboxf%1").arg(n), markerColour);
+        box->setAttribute(Qt::WA_NoMousePropagation); // its events do nothing, also to the page beneath
         box->setAccessibleName(QStringLiteral("Frame marker %1 of slot %2").arg(n % handleCount).arg(slot));
         trboxf.push_back(box);
     }

@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QColorDialog>
+#include <QGridLayout>
 #include <QMessageBox>
 
 namespace corvanta {
@@ -45,6 +46,15 @@ Answer toAnswer(int button)
     }
 }
 
+// A short text makes a box too narrow for its title.
+void widenForTitle(QMessageBox &box)
+{
+    constexpr int frameButtons = 120; // pixels
+    const int wanted = box.fontMetrics().horizontalAdvance(box.windowTitle()) + frameButtons;
+    if (auto *grid = qobject_cast<QGridLayout *>(box.layout()))
+        grid->addItem(new QSpacerItem(wanted, 0), grid->rowCount(), 0, 1, grid->columnCount());
+}
+
 Answer showBox(const MessageBox &question, QWidget *owner)
 {
     QMessageBox box(owner);
@@ -54,6 +64,7 @@ Answer showBox(const MessageBox &question, QWidget *owner)
     box.setText(toQString(question.text));
     box.setIcon(toQIcon(question.icon));
     box.setStandardButtons(toQButtons(question.buttons));
+    widenForTitle(box);
     return toAnswer(box.exec());
 }
 

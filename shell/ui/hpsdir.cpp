@@ -6,6 +6,7 @@
 #include "platform/qt/text.h"
 
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
@@ -47,7 +48,7 @@ Hpsdir::Hpsdir()
                        {"cancel", "Cancel", [this] { reject(); }},
                        {"Command2", "Help", [] { showHelp(HelpCommand::Contents); }}});
     connect(drivelist, &QComboBox::activated, this, [this] { show(chosenDrive(toBytes(drivelist->currentText()))); });
-    connect(direclist, &QListWidget::itemActivated, this, [this](QListWidgetItem *row) { open(row); });
+    connect(direclist, &QListWidget::itemDoubleClicked, this, [this](QListWidgetItem *row) { open(row); });
     show(openedDirectoryChoice());
     direclist->setFocus();
     CentreDialog(*this);
@@ -65,6 +66,17 @@ void Hpsdir::show(const DirectoryChoice &shown)
             direclist->setCurrentRow(direclist->count() - 1);
     }
     direclist->scrollToItem(direclist->currentItem());
+}
+
+// Enter in the list opens another directory than the shown one; else it is OK, as in the whole dialog.
+void Hpsdir::keyPressEvent(QKeyEvent *event)
+{
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const QListWidgetItem *row = direclist->currentItem();
+    if (enter && direclist->hasFocus() && row && row->data(pathRole).toString() != toQString(choice.path))
+        open(row);
+    else
+        QDialog::keyPressEvent(event);
 }
 
 void Hpsdir::open(const QListWidgetItem *row) { show(chosenPath(toBytes(row->data(pathRole).toString()))); }

@@ -16,6 +16,9 @@ class Hpsdir : public QDialog {
 public:
     Hpsdir();
 
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
 private:
     void show(const DirectoryChoice &shown);
     void open(const QListWidgetItem *row);

@@ -3,7 +3,6 @@
 #include "canvas/ui/editform.h"
 #include "document/page_file.h"
 #include "platform/qt/text.h"
-#include "shell/ui/icons.h"
 #include "shell/ui/menus.h"
 #include "shell/ui/strip.h"
 
@@ -25,13 +24,13 @@ Hpsedit::Hpsedit() : menus(new Menus(*menuBar())), strip(new Strip(this))
 {
     setObjectName(QStringLiteral("hpsedit"));
     setWindowTitle(QStringLiteral("Corvanta Form Editor"));
-    setWindowIcon(programIcon());
     setCentralWidget(new QWidget(this));
     auto *column = new QVBoxLayout(centralWidget());
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(strip);
     column->addStretch(); // below the strip of a maximised window
     setContextMenuPolicy(Qt::NoContextMenu);
+    setAttribute(Qt::WA_AlwaysShowToolTips); // also while the canvas window is the active one
     settling.setSingleShot(true);
     settling.setInterval(settlingTime);
     connect(&settling, &QTimer::timeout, this, [this] { snapToStrip(); });

@@ -7,8 +7,10 @@
 #include "document/page_file.h"
 #include "platform/asking.h"
 #include "platform/codepage.h"
+#include "platform/help.h"
 #include "platform/qt/dialogs.h"
 #include "platform/qt/fonts.h"
+#include "platform/qt/help_viewer.h"
 #include "platform/qt/qt_asking.h"
 #include "platform/qt/qt_multimedia.h"
 #include "platform/qt/qt_pictures.h"
@@ -19,10 +21,14 @@
 #include "shell/ui/hpsdir.h"
 #include "shell/ui/hpsedit.h"
 #include "shell/ui/hpsinput.h"
+#include "shell/ui/icons.h"
 #include "shell/ui/objlist.h"
 #include "shell/ui/places.h"
 
+#include <QApplication>
 #include <QLocale>
+#include <QTimer>
+#include <QWindow>
 
 #include <cmath>
 
@@ -44,7 +50,13 @@ EditorWindows::~EditorWindows()
     documentEvents() = {};
 }
 
-void EditorWindows::start(const std::string &pageFile) { startSession(pageFile); }
+void EditorWindows::start(const std::string &pageFile)
+{
+    startSession(pageFile);
+    // The page has given the canvas its size, maybe before the window system told what frame it has: the canvas then
+    // stands off its place by that frame.
+    editform->windowHandle()->setFramePosition(canvasPlace);
+}
 
 void EditorWindows::connectCommands()
 {
@@ -75,6 +87,7 @@ void EditorWindows::connectSession()
     steps.windowPlaces = [this] { return windowPlaces(*hpsedit, *editform); };
     steps.placeWindows = [this](const WindowSettings &places) { placeWindows(*hpsedit, *editform, places); };
     steps.showCanvas = [this] {
+        canvasPlace = editform->pos();
         hpsedit->show();
         editform->show();
     };
@@ -100,7 +113,6 @@ void EditorWindows::loadCanvas()
 {
     running().twipsPerPixel = static_cast<int>(std::lround(twipsPerPixelX()));
     editform = std::make_unique<Editform>();
-    editform->setWindowIcon(hpsedit->windowIcon());
     hpsedit->setCanvas(editform.get());
     EditformCommands &commands = editform->commands;
     commands.openMenu = [this](char letter) { hpsedit->openMenu(letter); };
@@ -110,20 +122,26 @@ void EditorWindows::loadCanvas()
     commands.fieldDropped = [](QPoint at, const QByteArray &payload) {
         dropField({at.x(), at.y()}, payload.toStdString());
     };
-    commands.closeRequested = [this] { hpsedit->close(); };
+    commands.closeRequested = [this] { // after the canvas's own event: it does not outlive the session
+        QTimer::singleShot(0, hpsedit.get(), [this] { hpsedit->close(); });
+    };
 }
 
 void installDesktop()
 {
+    QApplication::setWindowIcon(programIcon());
     registerFontSubstitutions();
     installPictureLoader();
     installMultimedia();
+    installHelp();
     installAsking([]() -> QWidget * { return nullptr; });
     asking().askText = showInput;
     LaterCommands &commands = laterCommands();
     commands.showDirectory = showDirectory;
     commands.showObjectList = showObjectList;
     commands.about = showAbout;
+    commands.helpContents = [] { showHelp(HelpCommand::Contents); };
+    commands.helpSearch = [] { showHelp(HelpCommand::Search); };
 }
 
 int chosenCodePage(int option)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QPoint>
+
 #include <functional>
 #include <memory>
 #include <string>
@@ -33,6 +35,7 @@ private:
 
     std::unique_ptr<Hpsedit> hpsedit;
     std::unique_ptr<Editform> editform;
+    QPoint canvasPlace; // of its frame, when it was shown
 };
 
 // Puts this desktop behind the platform's questions, pictures, sounds and fonts, and the shell's small windows

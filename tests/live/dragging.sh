@@ -10,7 +10,6 @@ save() {
   sleep 0.5
 }
 
-# The screen position of a widget of the main window: the tools stand behind the file panel in a row.
 echo "A Button tool is dragged onto the page, edited in its dialog and saved"
 cp samples/*.ods samples/*.bmp samples/*.wav "$work/"
 start_editor Product "$work/record.ods"
@@ -54,3 +53,29 @@ assert button["kindextra"]["font"]["FontBold"] is True, button["kindextra"]["fon
 assert button["actlist"] == {"code": 1, "page": "MENU"}, button["actlist"]
 PY
 end_editor
+
+echo "A column of the sample database becomes a bound Text Box at the place where it is dropped"
+start_editor Product "$work/record.ods"
+read -r left top <<<"$(origin_of "$(canvas_id)")"
+read -r odbc_left odbc_top <<<"$(origin_of "$(window 'ODBC Toolbar')")"
+click_odbc() { xdotool mousemove $((odbc_left + $1)) $((odbc_top + $2)) sleep 0.1 click 1 sleep 0.4; }
+click_odbc 252 51 # "Select"
+wait_until has_window 'Select Data Source'
+activate 'Select Data Source'
+type_text 'Corvanta'
+keys Return
+wait_until no_window 'Select Data Source'
+sleep 0.5
+click_odbc 40 123 # the first table: Customers
+drag $((odbc_left + 43)) $((odbc_top + 272)) $((left + 420)) $((top + 300)) # its second column: Name
+save
+"$programs/odspage" dump "$work/record.ods" >"$work/record.json"
+python3 - "$work/record.json" <<'PY'
+import json, sys
+box = json.load(open(sys.argv[1]))["objects"][-1]
+assert box["kind"] == 5 and (box["pleft"], box["ptop"]) == (420, 300), (box["kind"], box["pleft"], box["ptop"])
+assert (box["ctlname"], box["datacol"]) == ("Name", "Customers.Name"), (box["ctlname"], box["datacol"])
+assert (box["kindextra"]["inptype"], box["kindextra"]["maxlen"]) == (0, 40), box["kindextra"]
+PY
+end_editor
+echo "Both landed where they were dropped."

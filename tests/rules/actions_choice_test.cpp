@@ -1,7 +1,6 @@
 #include "actions/action.h"
 #include "actions/action_choice.h"
 #include "actions/action_kinds.h"
-#include "actions/action_list.h"
 
 #include <gtest/gtest.h>
 
@@ -78,30 +77,9 @@ TEST_F(ActionChoice, ChoosingGivesTemplateOrTheStoredActionBack)
     EXPECT_EQ(chosenAction("(none)", message, ""), "") << "an object without an action holds an empty text";
 }
 
-TEST_F(ActionChoice, ListEntriesAreInsertedReplacedAndRemoved)
+TEST_F(ActionChoice, CaptionsOfOfferedKindsOnly)
 {
-    const auto reply = [](const char *status) { return encodeActionEntry({"\x08\x02", status}); };
-    const auto statuses = [](const std::vector<ActionEntry> &entries) {
-        std::string all;
-        for (const ActionEntry &entry : entries)
-            all += entry.status;
-        return all;
-    };
-    std::vector<ActionEntry> entries;
-    EXPECT_TRUE(insertActionEntry(entries, 0, reply("a")));
-    EXPECT_TRUE(insertActionEntry(entries, 1, reply("c")));
-    EXPECT_TRUE(insertActionEntry(entries, 1, reply("b")));
-    EXPECT_EQ(statuses(entries), "abc");
-    EXPECT_TRUE(replaceActionEntry(entries, 2, reply("d")));
-    EXPECT_TRUE(removeActionEntry(entries, 0));
-    EXPECT_EQ(statuses(entries), "bd");
-    EXPECT_FALSE(insertActionEntry(entries, 3, reply("x")));
-    EXPECT_FALSE(insertActionEntry(entries, 0, ""));
-    EXPECT_FALSE(replaceActionEntry(entries, 2, reply("x")));
-    EXPECT_FALSE(replaceActionEntry(entries, 0, ""));
-    EXPECT_FALSE(removeActionEntry(entries, 2));
-    EXPECT_EQ(statuses(entries), "bd");
-    EXPECT_EQ(actionCaption(entries[0].action), "Exit Application");
+    EXPECT_EQ(actionCaption("\x08\x02"), "Exit Application");
     EXPECT_EQ(actionCaption("\x04\0"s), "");
 }
 

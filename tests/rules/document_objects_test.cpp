@@ -1,8 +1,10 @@
+#include "document/entries.h"
 #include "document/events.h"
 #include "document/kinds.h"
 #include "document/object_file.h"
 #include "document/objects.h"
 #include "document/page_file.h"
+#include "tests/support/temporary_drive.h"
 
 #include <gtest/gtest.h>
 
@@ -134,6 +136,24 @@ TEST_F(Objects, FramesTakeTheLowestFreeNumbers)
         EXPECT_FALSE(frame.used);
 }
 
+TEST_F(Objects, APageThatIsLentASizeIsSavedWithItsOwnUntilItIsEdited)
+{
+    const TemporaryDrive drive;
+    newPage();
+    editing().filetag = "C:\\NEW.ODS";
+    editing().lentSize = {{0, 0}};
+    page().bkgwd = 600;
+    page().bkght = 420;
+    ASSERT_TRUE(savePage());
+    EXPECT_EQ(hostBytes(drive.root() / "NEW.ODS"), serialisePage(Page()));
+    EXPECT_EQ(page().bkgwd, 600);
+    pageEdited();
+    ASSERT_TRUE(savePage());
+    EXPECT_EQ(hostBytes(drive.root() / "NEW.ODS"), serialisePage(page()));
+    ASSERT_TRUE(savePage());
+    EXPECT_EQ(hostBytes(drive.root() / "NEW.ODS"), serialisePage(page()));
+}
+
 TEST_F(Objects, NewPageForgetsEverything)
 {
     addObject(Kind::Button);
@@ -145,6 +165,20 @@ TEST_F(Objects, NewPageForgetsEverything)
     EXPECT_EQ(page().sndfn, "");
     EXPECT_EQ(filePanelCaption(), "(New file)");
     EXPECT_FALSE(editing().pagedirty);
+}
+
+TEST(Entries, CommandsWithoutTheirEntryChangeNothing)
+{
+    std::vector<std::string> list;
+    EXPECT_EQ(applyEntry(list, EntryCommand::Edit, -1, std::string("x")), -1);
+    EXPECT_EQ(applyEntry(list, EntryCommand::Delete, 0), 0);
+    EXPECT_TRUE(list.empty());
+    EXPECT_EQ(applyEntry(list, EntryCommand::New, -1, std::string("b")), 0);
+    EXPECT_EQ(applyEntry(list, EntryCommand::Insert, 0, std::string("a")), 0);
+    EXPECT_EQ(applyEntry(list, EntryCommand::Edit, 1, std::string("c")), 1);
+    EXPECT_EQ(list, (std::vector<std::string>{"a", "c"}));
+    EXPECT_EQ(applyEntry(list, EntryCommand::Delete, 0), -1);
+    EXPECT_EQ(list, std::vector<std::string>{"c"});
 }
 
 TEST(Kinds, RegistryHasOneEntryBeyondTheHighestCodeAndGaps)

@@ -86,8 +86,9 @@ TEST_F(ShellDialogs, DirectoryIsChosenByItsList)
     const auto choosePages = [](QWidget &w) {
         auto &list = child<QListWidget>(w, "direclist");
         ASSERT_EQ(list.count(), 2);
-        list.setCurrentRow(1);
-        emit list.itemActivated(list.item(1));
+        QTest::keyClick(&list, Qt::Key_Down);
+        QTest::keyClick(&list, Qt::Key_Return);
+        EXPECT_TRUE(w.isVisible());
         EXPECT_EQ(child<QLabel>(w, "curdirec").text(), "C:\\pages");
         EXPECT_EQ(list.item(2)->text().trimmed(), "deep");
     };
@@ -101,10 +102,13 @@ TEST_F(ShellDialogs, DirectoryIsChosenByItsList)
     EXPECT_EQ(editing().curdir, "C:\\");
     driver.expect("hpsdir", [&](QWidget &w) {
         choosePages(w);
-        child<QPushButton>(w, "ok").click();
+        auto &list = child<QListWidget>(w, "direclist");
+        emit list.itemDoubleClicked(list.item(2));
+        EXPECT_EQ(child<QLabel>(w, "curdirec").text(), "C:\\pages\\deep");
+        QTest::keyClick(&list, Qt::Key_Return); // on the shown directory: OK
     });
     showDirectory();
-    EXPECT_EQ(editing().curdir, "C:\\PAGES\\");
+    EXPECT_EQ(editing().curdir, "C:\\PAGES\\DEEP\\");
 }
 
 TEST_F(ShellDialogs, ObjectListChoosesOpensAndDeletes)

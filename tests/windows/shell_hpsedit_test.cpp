@@ -185,7 +185,7 @@ TEST_F(ShellMainWindow, ClosingAsksAndUnloadsTheCanvas)
     editing().pagedirty = true;
     user.expectMessage("Save changes to current page?", "Corvanta Form Editor", Icon::Question, Buttons::YesNoCancel,
                        Answer::Cancel);
-    windows->canvas()->close();
+    child<QAction>("exitmenu").trigger();
     ASSERT_NE(windows->canvas(), nullptr);
     EXPECT_TRUE(windows->main().isVisible());
 
@@ -195,8 +195,8 @@ TEST_F(ShellMainWindow, ClosingAsksAndUnloadsTheCanvas)
 
     user.expectMessage("Save changes to current page?", "Corvanta Form Editor", Icon::Question, Buttons::YesNoCancel,
                        Answer::No);
-    child<QAction>("exitmenu").trigger();
-    EXPECT_EQ(windows->canvas(), nullptr);
+    windows->canvas()->close();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return windows->canvas() == nullptr; }));
     EXPECT_EQ(objectCount(page()), 0);
     EXPECT_EQ(hostBytes(drive.root() / "PAGES/R&D.ODS"), samples::sample("record.ods"));
     EXPECT_NE(hostBytes(drive.root() / "profile/CORVANTA.INI").find("DefaultPath=C:\\PAGES\\"), std::string::npos);
