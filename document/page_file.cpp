@@ -116,8 +116,10 @@ void parsePage(Page &p, std::string_view text)
     const std::string header = decodeString(text);
     if (!header.empty())
         readPageHeader(p, header);
-    if (&p == &page())
+    if (&p == &page()) {
+        editing().lentSize.reset();
         call(documentEvents().pageLayout);
+    }
     while (!text.empty())
         createVisual(p, decodeString(text));
 }

@@ -17,7 +17,8 @@ namespace corvanta {
 
 namespace {
 
-constexpr int settlingTime = 400; // milliseconds
+constexpr int settlingTime = 1000; // milliseconds
+constexpr QSize usualBorder(8, 40);
 constexpr QSize smallestPage(48, 24);
 
 QScrollArea *newScroller(QWidget *parent)
@@ -82,7 +83,20 @@ void Editform::resizeToPage()
     if (pageSize.isEmpty() || size() == wanted)
         return;
     settling.start();
+    superseded.append(size());
     resize(wanted);
+}
+
+// A window system answers some time after a size was asked for, and may answer with one that was replaced meanwhile:
+// neither is the user's.
+bool Editform::isLateAnswer(const QResizeEvent &event)
+{
+    if (!event.spontaneous())
+        return false;
+    if (settling.isActive() || superseded.contains(event.size()))
+        return true;
+    superseded.clear();
+    return false;
 }
 
 void Editform::showMockToolbar(bool shown)
@@ -108,7 +122,8 @@ QSize Editform::innerSize() const { return size() - QSize(0, frameHeight()); }
 
 QSize Editform::screenRoom() const
 {
-    const QSize border = frameGeometry().size() - size();
+    const QSize known = frameGeometry().size() - size();
+    const QSize border = known.isNull() ? usualBorder : known; // not known before the window is shown
     return screen()->availableSize() - border - QSize(0, frameHeight());
 }
 
@@ -160,8 +175,8 @@ void Editform::repaintPage() { visuals.refreshAll(); }
 
 void Editform::resizeEvent(QResizeEvent *event)
 {
-    const bool late = event->spontaneous() && settling.isActive(); // the window system's answer to a size of ours
-    if (!inLayout && !late && isVisible() && isNormal() && editing().msgflag && (page().pgflags & sizeFromImage) == 0)
+    if (!inLayout && !isLateAnswer(*event) && isVisible() && isNormal() && editing().msgflag &&
+        (page().pgflags & sizeFromImage) == 0)
         takeSizeFromWindow();
     arrange();
 }

@@ -6,6 +6,7 @@
 #include "canvas/ui/trackers.h"
 #include "canvas/ui/visuals.h"
 
+#include <QList>
 #include <QTimer>
 #include <QWidget>
 
@@ -44,6 +45,7 @@ private:
     bool isNormal() const; // neither minimised nor maximised
     int frameHeight() const;
     QSize innerSize() const;
+    bool isLateAnswer(const QResizeEvent &event);
     QSize screenRoom() const; // for the page, when the window fills the screen
     void takeMissingSize();
     void takeSizeFromWindow();
@@ -65,10 +67,11 @@ private:
     Visuals visuals;
     CanvasInput input;
     QTimer objtimer;
-    QTimer settling;       // runs while the window system may still answer to a size of ours
-    QSize fitted;          // the part of the page that the window showed when it took the page's size
-    bool inLayout = false; // resizes are of the program's making
-    QSize unasked;         // page size that a new page took from the window
+    QTimer settling;         // runs while the window system may still answer to a size of ours
+    QList<QSize> superseded; // sizes that others have taken the place of, since the user's last
+    QSize fitted;            // the part of the page that the window showed when it took the page's size
+    bool inLayout = false;   // resizes are of the program's making
+    QSize unasked;           // page size that a new page took from the window
 };
 
 } // namespace corvanta

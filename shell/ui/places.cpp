@@ -3,11 +3,14 @@
 #include "platform/qt/dialogs.h"
 #include "shell/session.h"
 
+#include <QDeadlineTimer>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QStyle>
+#include <QTimer>
 #include <QVariant>
 #include <QWidget>
+#include <QWindow>
 
 #include <cmath>
 
@@ -15,7 +18,8 @@ namespace corvanta {
 
 namespace {
 
-constexpr int edge = 12, gap = 24; // pixels to the screen's edge, and between the windows
+constexpr int edge = 12, gap = 24;    // pixels to the screen's edge, and between the windows
+constexpr int longestFrameWait = 300; // milliseconds
 
 int twipsX(int pixels) { return static_cast<int>(std::lround(pixels * twipsPerPixelX())); }
 int twipsY(int pixels) { return static_cast<int>(std::lround(pixels * twipsPerPixelY())); }
@@ -82,6 +86,15 @@ void placeAtFirst(QWidget &main, QWidget &canvas)
     const QPoint corner = QGuiApplication::primaryScreen()->availableGeometry().topLeft();
     main.move(corner + QPoint(edge, edge));
     canvas.move(main.pos() + QPoint(0, main.height() + frameOf(main).height() + gap));
+}
+
+void waitForFrame(const QWidget &window)
+{
+    const QDeadlineTimer deadline(longestFrameWait);
+    QTimer wake;
+    wake.start(longestFrameWait);
+    while (!window.windowHandle()->isExposed() && !deadline.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
 }
 
 } // namespace corvanta

@@ -15,4 +15,8 @@ void placeWindows(QWidget &main, QWidget &canvas, const WindowSettings &places);
 // Where the windows stand before there are settings: the main window at the top left, the canvas below it.
 void placeAtFirst(QWidget &main, QWidget &canvas);
 
+// Waits, a moment at most, until the window system has framed a window that was just shown: a window that gets another
+// size before that ends up beside its place by its frame.
+void waitForFrame(const QWidget &window);
+
 } // namespace corvanta

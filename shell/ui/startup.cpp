@@ -28,7 +28,6 @@
 #include <QApplication>
 #include <QLocale>
 #include <QTimer>
-#include <QWindow>
 
 #include <cmath>
 
@@ -50,13 +49,7 @@ EditorWindows::~EditorWindows()
     documentEvents() = {};
 }
 
-void EditorWindows::start(const std::string &pageFile)
-{
-    startSession(pageFile);
-    // The page has given the canvas its size, maybe before the window system told what frame it has: the canvas then
-    // stands off its place by that frame.
-    editform->windowHandle()->setFramePosition(canvasPlace);
-}
+void EditorWindows::start(const std::string &pageFile) { startSession(pageFile); }
 
 void EditorWindows::connectCommands()
 {
@@ -87,9 +80,9 @@ void EditorWindows::connectSession()
     steps.windowPlaces = [this] { return windowPlaces(*hpsedit, *editform); };
     steps.placeWindows = [this](const WindowSettings &places) { placeWindows(*hpsedit, *editform, places); };
     steps.showCanvas = [this] {
-        canvasPlace = editform->pos();
         hpsedit->show();
         editform->show();
+        waitForFrame(*editform);
     };
     steps.unloadCanvas = [this] { editform.reset(); };
 }

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QPoint>
-
 #include <functional>
 #include <memory>
 #include <string>
@@ -35,7 +33,6 @@ private:
 
     std::unique_ptr<Hpsedit> hpsedit;
     std::unique_ptr<Editform> editform;
-    QPoint canvasPlace; // of its frame, when it was shown
 };
 
 // Puts this desktop behind the platform's questions, pictures, sounds and fonts, and the shell's small windows

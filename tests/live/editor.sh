@@ -28,6 +28,19 @@ xdotool windowmap "$main" windowactivate "$main"
 wait_until canvas_found
 end_editor
 
+echo "A page without a size is saved as it was, and one that does not fit on the screen too"
+cp tests/data/pages/empty.ods "$work/empty.ods"
+"$programs/odspage" dump samples/record.ods | sed 's/"bkght": 420/"bkght": 980/; s/"bkgwd": 600/"bkgwd": 2000/' >"$work/huge.json"
+"$programs/odspage" build "$work/huge.json" "$work/huge.ods"
+for page in empty:Page huge:Product; do
+  rm -f "$work/copy.ods"
+  start_editor "${page#*:}" "$work/${page%:*}.ods"
+  sleep 1.5
+  save_as "$work/copy.ods"
+  cmp "$work/${page%:*}.ods" "$work/copy.ods" || fail "Opening changed ${page%:*}.ods"
+  end_editor
+done
+
 echo "A dragged label moves by the dragged pixels, and the saved file shows it"
 cp samples/menu.ods samples/*.bmp samples/*.wav "$work/"
 start_editor 'Harbour Supply - Main Menu' "$work/menu.ods"
