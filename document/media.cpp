@@ -132,8 +132,10 @@ bool LoadButtonPicture(std::int16_t index, const std::string &file)
 
 void LoadTextBoxFile(std::int16_t index, const std::string &file)
 {
-    if (file.empty())
+    if (file.empty()) {
+        elementOf(page(), index)->Caption = page().tbx.front().Caption;
         return;
+    }
     std::string text;
     if (plainFileName(file))
         text = readWholeFile(editing().curdir + file, textFileLimit);

@@ -44,14 +44,12 @@ std::int32_t ParseInt32Clamped(std::string_view text)
 
 std::int32_t ParseColourText(std::string_view text)
 {
-    const std::string digits = trimmed(text);
-    if (!hexadecimal(digits)) {
-        if (editing().msgflag)
-            showMessage({"Overflow", "Long conversion Error", Icon::Information, Buttons::Ok});
-        return 0;
-    }
-    return ParseInt32Clamped("&H" + digits);
+    if (!hexadecimal(trimmed(text)) && editing().msgflag)
+        showMessage({"Overflow", "Long conversion Error", Icon::Information, Buttons::Ok});
+    return colourShown(text);
 }
+
+std::int32_t colourShown(std::string_view text) { return ParseInt32Clamped("&H" + trimmed(text)); }
 
 std::string colourText(std::int32_t colour)
 {

@@ -18,6 +18,9 @@ std::int32_t ParseInt32Clamped(std::string_view text);
 // set and read as 0.
 std::int32_t ParseColourText(std::string_view text);
 
+// The same without telling, for a text that is being typed.
+std::int32_t colourShown(std::string_view text);
+
 // A colour as upper-case hexadecimal digits without prefix or leading zeros.
 std::string colourText(std::int32_t colour);
 

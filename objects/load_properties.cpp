@@ -80,6 +80,9 @@ PropertyFields LoadProperties(std::int16_t index)
     return f;
 }
 
-bool showsDataFields(const Page &p) { return static_cast<PageKind>(p.PageType) != PageKind::Menu; }
+bool showsDataFields(const Page &p, Kind kind)
+{
+    return kind == Kind::ComboBox || static_cast<PageKind>(p.PageType) != PageKind::Menu;
+}
 
 } // namespace corvanta

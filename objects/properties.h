@@ -43,8 +43,9 @@ struct Confirmation {
 // Checks the fields in the kind's order, telling what is wrong, and writes them back.
 Confirmation ConfirmProperties(std::int16_t index, const PropertyFields &fields);
 
-// Whether the data binding fields are shown: not on pages of the type "Menu".
-bool showsDataFields(const Page &p);
+// Whether a kind's dialog shows the data column, the input type and the frame "Auto SQL": not on pages of the type
+// "Menu", but for a Combo Box.
+bool showsDataFields(const Page &p, Kind kind);
 
 // The checks of an Animation, stopping at the first fault.
 bool CheckAnimation(const PropertyFields &fields);

@@ -206,6 +206,8 @@ void storeAnimation(const Target &t, const PropertyFields &f)
 
 Confirmation ConfirmProperties(std::int16_t index, const PropertyFields &fields)
 {
+    if (!hasObject(page(), index))
+        return {};
     const Target t = targetOf(index);
     const Check check = checkFields(t.kind, fields);
     if (!check.passed)

@@ -12,7 +12,7 @@ RUN_PACKAGES=(
   xvfb openbox imagemagick x11vnc x11-utils
 )
 TEST_PACKAGES=(
-  clang-format python3
+  clang-format python3 git
 )
 # Left out by ./test --quick: servers, browsers, the virtual screen's tools.
 FULL_TEST_PACKAGES=(

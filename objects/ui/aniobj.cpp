@@ -52,10 +52,10 @@ void TakeFrameFields(FrameFields &f)
     frame.duration = numberIn(*f.duration);
 }
 
-void showField(QLineEdit &field, const char *label, const QString &text, bool enabled)
+void showField(QLineEdit &field, const char *label, const QString &text, bool enabled, bool anyFrame)
 {
     setFieldEnabled(field, enabled);
-    labelOf(field)->setText(enabled ? QString(label) : QString(label).remove('&'));
+    labelOf(field)->setText(anyFrame ? QString(label) : QString(label).remove('&'));
     field.setText(text);
 }
 
@@ -68,11 +68,11 @@ void showFrame(FrameFields &f, int row)
     const bool placed = row == 0 || (any && !f.frozen->isChecked());
     const auto number = [&](int value) { return any ? QString::number(value) : QString(); };
     const auto place = [&](int value) { return placed || !any ? number(value) : QString("N/A"); };
-    showField(*f.ptop, "&Top:", place(frame.top), placed);
-    showField(*f.pleft, "&Left:", place(frame.left), placed);
-    showField(*f.imgfn, "&Image:", toQString(frame.image), any);
-    showField(*f.sndfn, "S&ound:", toQString(frame.sound), any);
-    showField(*f.duration, "&Duration:", number(frame.duration), any);
+    showField(*f.ptop, "&Top:", place(frame.top), placed, any);
+    showField(*f.pleft, "&Left:", place(frame.left), placed, any);
+    showField(*f.imgfn, "I&mage:", toQString(frame.image), any, any);
+    showField(*f.sndfn, "S&ound:", toQString(frame.sound), any, any);
+    showField(*f.duration, "&Duration:", number(frame.duration), any, any);
 }
 
 void ShowFrameFields(FrameFields &f)
@@ -95,7 +95,7 @@ void addFrameFields(FrameFields &f, QBoxLayout &layout)
     Group group = addGroup(layout, "frame", "Frame", 2);
     f.ptop = addNumberRow(group.fields, "ptop", "&Top:");
     f.pleft = addNumberRow(group.fields, "pleft", "&Left:");
-    f.imgfn = addTextRow(group.fields, "imgfn", "&Image:");
+    f.imgfn = addTextRow(group.fields, "imgfn", "I&mage:");
     f.sndfn = addTextRow(group.fields, "sndfn", "S&ound:");
     f.duration = addNumberRow(group.fields, "duration", "&Duration:");
     addHintBeside(group.fields, "(1/10 seconds)");
@@ -119,7 +119,7 @@ void buildAniobj(PropertyDialog &d)
     const auto columns = addColumns(d.contents(), 2);
     auto f = std::make_shared<FrameFields>(FrameFields{d});
     addStandardProperties(d, *columns[0], false);
-    addActionGroup(d, *columns[0]);
+    addActionGroup(d, *columns[0], "&Action:");
     addPlayback(*f, *columns[0]);
 
     Group frames = addGroup(*columns[1], "frames", "Frames");

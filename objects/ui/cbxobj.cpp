@@ -42,7 +42,7 @@ void buildCbxobj(PropertyDialog &d)
     d.onLoad([&d, list] { showEntries(*list, d.values.comboEntries, -1); });
 
     Group look = addGroup(*columns[1], "look", "Appearance");
-    addEntryAppearance(d, look, *list, true);
+    addEntryAppearance(d, look, "cbxedit", true);
     addTabIndexRow(d, look.fields, "Tab Index:");
 }
 

@@ -16,16 +16,18 @@ void dress(QListWidget &list, const FontBlock &font, const std::string &colour)
 {
     QPalette palette = list.palette();
     palette.setColor(QPalette::Text, toQColor(font.ForeColor));
-    palette.setColor(QPalette::Base, toQColor(ParseColourText(colour)));
+    palette.setColor(QPalette::Base, toQColor(colourShown(colour)));
     list.setPalette(palette);
     list.setFont(toQFont(font));
 }
 
 } // namespace
 
-void addEntryAppearance(PropertyDialog &d, Group &look, QListWidget &list, bool alignment)
+void addEntryAppearance(PropertyDialog &d, Group &look, const char *listName, bool alignment)
 {
-    const auto redress = [&d, &list] { dress(list, d.values.font, toBytes(d.findChild<QLineEdit *>("col")->text())); };
+    const auto redress = [&d, listName] {
+        dress(*d.findChild<QListWidget *>(listName), d.values.font, toBytes(d.findChild<QLineEdit *>("col")->text()));
+    };
     addColourRow(d, look.fields, redress);
     addFontButton(d, look.fields, redress);
     if (alignment)

@@ -2,11 +2,10 @@
 
 #include "objects/ui/property_dialog.h"
 
-class QListWidget;
-
 namespace corvanta {
 
 // Colour, alignment (where the kind has one) and font of a dialog with an entry list, which looks like the object.
-void addEntryAppearance(PropertyDialog &d, Group &look, QListWidget &list, bool alignment);
+// The list, which may be added later, has this name.
+void addEntryAppearance(PropertyDialog &d, Group &look, const char *listName, bool alignment);
 
 } // namespace corvanta

@@ -89,8 +89,10 @@ void buildGrdobj(PropertyDialog &d)
 {
     const auto columns = addColumns(d.contents(), 2);
     addStandardProperties(d, *columns[0]);
-    addActionGroup(d, *columns[0]);
+    addActionGroup(d, *columns[0], "&Action:");
     Group look = addGroup(*columns[0], "look", "Appearance");
+    addEntryAppearance(d, look, "grdedit", false);
+    addTabIndexRow(d, look.fields, "&Tab Index:");
 
     Group header = addGroup(*columns[1], "header", "Header");
     QListWidget *list = addListRow(header.fields, "grdedit", "");
@@ -103,9 +105,6 @@ void buildGrdobj(PropertyDialog &d)
         showEntries(*list, headersOf(d.values.columns), -1);
         showPreview(*preview, d.values.columns);
     });
-
-    addEntryAppearance(d, look, *list, false);
-    addTabIndexRow(d, look.fields, "&Tab Index:");
 }
 
 } // namespace corvanta

@@ -78,6 +78,8 @@ void buildLbxobj(PropertyDialog &d)
     const auto columns = addColumns(d.contents(), 2);
     addStandardProperties(d, *columns[0]);
     Group look = addGroup(*columns[0], "look", "Appearance");
+    addEntryAppearance(d, look, "lbxedit", true);
+    addTabIndexRow(d, look.fields, "Tab Index:");
 
     Group entries = addGroup(*columns[1], "listbox", "Listbox");
     QListWidget *list = addListRow(entries.fields, "lbxedit", "");
@@ -86,9 +88,6 @@ void buildLbxobj(PropertyDialog &d)
                     [&d, list](EntryCommand command, int selected) { editEntry(d, *list, command, selected); });
     addEntryAction(d, entries, *list);
     d.onLoad([&d, list] { showEntries(*list, textsOf(d.values.listEntries), -1); });
-
-    addEntryAppearance(d, look, *list, true);
-    addTabIndexRow(d, look.fields, "Tab Index:");
 }
 
 } // namespace corvanta

@@ -4,6 +4,7 @@
 #include "platform/help.h"
 #include "platform/qt/text.h"
 #include "platform/qt/tied_text.h"
+#include "platform/text.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -37,6 +38,7 @@ void tieIndex(PropertyDialog &d, QComboBox *list, int &member)
 PropertyDialog::PropertyDialog(const char *name, Kind kind, std::int16_t index)
     : values(LoadProperties(index)),
       objectIndex(index),
+      objectKind(kind),
       column(startDialog(*this, name, toQString(propertiesCaption(kind))))
 {
     workingAction() = values.action;
@@ -50,10 +52,26 @@ void PropertyDialog::complete()
     for (const auto &load : loads)
         load();
     CentreDialog(*this);
+    if (auto *first = findChild<QLineEdit *>()) {
+        first->setFocus();
+        first->selectAll();
+    }
+}
+
+// The image name of a Button or Image is shown as it is checked: without blanks around it.
+void PropertyDialog::trimFileName()
+{
+    auto *imgfn = findChild<QLineEdit *>("imgfn");
+    if (!imgfn || objectKind == Kind::Animation)
+        return;
+    const QString plain = toQString(trimmed(toBytes(imgfn->text())));
+    if (plain.size() != imgfn->text().size())
+        imgfn->setText(plain);
 }
 
 void PropertyDialog::confirm()
 {
+    trimFileName();
     for (const auto &take : takes)
         take();
     const Confirmation confirmation = ConfirmProperties(objectIndex, values);
@@ -67,7 +85,6 @@ void returnToField(QWidget &dialog, const std::string &name)
     auto *field = name.empty() ? nullptr : dialog.findChild<QLineEdit *>(QString::fromStdString(name));
     if (!field)
         return;
-    field->setText(field->text().trimmed());
     field->setFocus();
     field->selectAll();
 }

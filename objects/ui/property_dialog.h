@@ -23,6 +23,7 @@ public:
     void complete();
 
     std::int16_t index() const { return objectIndex; }
+    Kind kind() const { return objectKind; }
     QVBoxLayout &contents() { return *column; }
 
     // Ties a control to a member of the fields.
@@ -41,16 +42,19 @@ public:
     PropertyFields values;
 
 private:
+    void trimFileName();
     void confirm();
 
     std::int16_t objectIndex;
+    Kind objectKind;
     QVBoxLayout *column;
     std::vector<std::function<void()>> loads, takes;
 };
 
 // Groups that several dialogs share.
 void addStandardProperties(PropertyDialog &d, QBoxLayout &layout, bool placement = true);
-void addActionGroup(PropertyDialog &d, QBoxLayout &layout);
+// The action; without a label of its own the choice has the frame's caption, "&Action".
+void addActionGroup(PropertyDialog &d, QBoxLayout &layout, const QString &label = {});
 // Name, data column and update key; the data column is hidden on pages of the type "Menu". The first two take dragged
 // columns; droppedOnColumn runs when the data column has taken one.
 void addBindingGroup(PropertyDialog &d, QBoxLayout &layout,

@@ -33,10 +33,10 @@ void addStandardProperties(PropertyDialog &d, QBoxLayout &layout, bool placement
     d.tie(addTextRow(group.fields, "sptext", "&Status Panel Text:"), &CommonFields::sptext);
 }
 
-void addActionGroup(PropertyDialog &d, QBoxLayout &layout)
+void addActionGroup(PropertyDialog &d, QBoxLayout &layout, const QString &label)
 {
-    Group group = addGroup(layout, "action", "&Action");
-    const ActionControls controls = addActionControls(group.fields, "");
+    Group group = addGroup(layout, "action", label.isEmpty() ? "&Action" : "Action");
+    const ActionControls controls = addActionControls(group.fields, label);
     d.onLoad([controls] { FillActionChoice(controls, ActionCode(workingAction())); });
     d.onTake([&d] { d.values.action = workingAction(); });
 }
@@ -49,7 +49,7 @@ void addBindingGroup(PropertyDialog &d, QBoxLayout &layout, std::function<void(c
     d.tie(ctlname, &CommonFields::ctlname);
     d.tie(datacol, &CommonFields::datacol);
     d.tie(addTextRow(group.fields, "updatekey", "&Update Key:"), &CommonFields::updatekey);
-    setFieldVisible(*datacol, showsDataFields(page()));
+    setFieldVisible(*datacol, showsDataFields(page(), d.kind()));
     acceptColumn(*ctlname, [ctlname](const DroppedColumn &column) { ctlname->setText(toQString(column.name)); });
     acceptColumn(*datacol, [datacol, droppedOnColumn](const DroppedColumn &column) {
         datacol->setText(toQString(qualifiedName(column)));
@@ -64,7 +64,7 @@ void addAutoSqlGroup(PropertyDialog &d, QBoxLayout &layout, bool exclude)
     d.tie(addTextRow(group.fields, "condobjname", "Condition Object:"), &CommonFields::condobjname);
     if (exclude)
         d.tie(addCheckRow(group.fields, "exludesql", "Exlude from SQL"), &PropertyFields::exludesql);
-    group.box->setVisible(showsDataFields(page()));
+    group.box->setVisible(showsDataFields(page(), d.kind()));
 }
 
 QComboBox *addAlignmentRow(PropertyDialog &d, Fields &fields, const QString &label)

@@ -23,7 +23,7 @@ void addInput(PropertyDialog &d, QBoxLayout &layout)
     QComboBox *inptype = addComboRow(
         input.fields, "inptype", "&Input Type:", {"String", "Integer", "Real", "Date", "Time", "Currency", "Numeric"});
     d.tie(inptype, &PropertyFields::inptype);
-    setFieldVisible(*inptype, showsDataFields(page()));
+    setFieldVisible(*inptype, showsDataFields(page(), d.kind()));
     d.tie(addNumberRow(input.fields, "maxlen", "Max Length:"), &PropertyFields::maxlen);
     d.tie(addTextRow(input.fields, "txtfn", "Text &File:"), &PropertyFields::txtfn);
     Fields flags = addFields(*input.contents, 3);

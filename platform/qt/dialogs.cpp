@@ -74,7 +74,9 @@ QVBoxLayout *startDialog(QDialog &dialog, const char *name, const QString &capti
     dialog.setObjectName(name);
     dialog.setWindowTitle(caption);
     TrimWindowMenu(dialog, 1);
+    constexpr int frameButtons = 120; // pixels beside the caption
     auto *frame = new QVBoxLayout(&dialog);
+    frame->addStrut(dialog.fontMetrics().horizontalAdvance(caption) + frameButtons);
     auto *contents = new QVBoxLayout;
     frame->addLayout(contents, 1);
     frame->addStretch();

@@ -2,10 +2,28 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QEvent>
 #include <QPointer>
 #include <QWindow>
 
 namespace corvanta {
+
+namespace {
+
+// A window that is switched off cannot be closed either: what it closes with would come too early.
+class StaysOpen : public QObject {
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Close)
+            event->ignore();
+        return event->type() == QEvent::Close;
+    }
+};
+
+} // namespace
 
 std::function<std::vector<QWidget *>()> &switchableWindows()
 {
@@ -19,8 +37,11 @@ void showSwitchingOff(QDialog *dialog, std::function<void()> closed)
     if (switchableWindows())
         for (QWidget *window : switchableWindows()())
             switchedOff.emplace_back(window);
-    for (const auto &window : switchedOff)
+    auto *staysOpen = new StaysOpen(dialog);
+    for (const auto &window : switchedOff) {
         window->setEnabled(false);
+        window->installEventFilter(staysOpen);
+    }
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     QObject::connect(dialog, &QObject::destroyed, [switchedOff, closed] {
         for (const auto &window : switchedOff)

@@ -8,6 +8,7 @@
 
 #include <QAction>
 #include <QKeyEvent>
+#include <QKeySequence>
 #include <QMenu>
 #include <QMenuBar>
 
@@ -18,6 +19,19 @@ namespace {
 bool isMark(Command command)
 {
     return command == Command::MockToolbar || command == Command::StatusPanel || command == Command::OdbcToolbar;
+}
+
+// The keys of the desktop's own for what every program has.
+QKeySequence shortcutOf(Command command)
+{
+    switch (command) {
+    case Command::New: return QKeySequence::New;
+    case Command::Open: return QKeySequence::Open;
+    case Command::Save: return QKeySequence::Save;
+    case Command::SaveAs: return QKeySequence::SaveAs;
+    case Command::Exit: return QKeySequence::Quit;
+    default: return {};
+    }
 }
 
 const QAction *highlighted(QObject *menu)
@@ -58,6 +72,8 @@ QAction *Menus::addRow(const MenuRow &row)
     auto *action = new QAction(&parent);
     action->setSeparator(isSeparator(row));
     action->setText(isSeparator(row) ? QString() : caption);
+    action->setShortcut(shortcutOf(row.command));
+    action->setShortcutContext(Qt::ApplicationShortcut); // on the canvas as well
     action->setCheckable(isMark(row.command));
     action->setMenuRole(QAction::NoRole);
     connect(action, &QAction::triggered, this, [command = row.command] { runCommand(command); });
