@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # The real program, by mouse and keyboard: an object tool dragged onto the page and edited, and a column of the sample
 # database that becomes a bound Text Box.
-source "$(dirname "$(readlink -f "$0")")/lib.sh"
+source "$(dirname "$(readlink -f "$0")")/support/lib.sh"
 source scripts/sample-database
 
 save() {

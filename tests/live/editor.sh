@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # The real program, used from outside: opening, saving under another name, dragging, menus, minimising.
-source "$(dirname "$(readlink -f "$0")")/lib.sh"
+source "$(dirname "$(readlink -f "$0")")/support/lib.sh"
 
 save_as() {
   activate 'Corvanta Form Editor'

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # A page's sound is heard: the real program plays a tone into a private sound server, whose output is recorded.
-source "$(dirname "$(readlink -f "$0")")/lib.sh"
+source "$(dirname "$(readlink -f "$0")")/support/lib.sh"
 
 export PULSE_RUNTIME_PATH=$work/pulse PULSE_SERVER=unix:$work/pulse/native HOME=$work
 mkdir -p "$work/pulse"

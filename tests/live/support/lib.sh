@@ -1,7 +1,7 @@
 # What the tests of the real program share: a virtual screen, the editor on it, and hands on mouse and keyboard.
-# Sourced by the scripts beside it, which run from the project's root.
+# Sourced by the scripts above it, which run from the project's root.
 set -euo pipefail
-cd "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/../.."
+cd "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/../../.."
 source scripts/virtual-screen
 
 programs=$PWD/build/release/bin
