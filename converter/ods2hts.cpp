@@ -30,7 +30,9 @@ bool convert(const std::string &path)
 {
     const std::string target = templatePath(path);
     const FileContent file = readFile(path, fileLimit);
-    if (file.bytes.empty() || sameText(target, path))
+    // A name shorter than an extension would give a template in another directory.
+    const bool beside = directoryPart(target) == directoryPart(path);
+    if (file.bytes.empty() || !beside || sameText(target, path))
         return false;
     Page p;
     parsePage(p, file.bytes);

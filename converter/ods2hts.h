@@ -11,7 +11,7 @@
 // Writes the template of a page file beside it: the path with its last three characters replaced by "hts".
 // The path is a drive path, bytes of the code page, ended by NUL. Non-zero when the template was written,
 // 0 when the page could not be read or the template not be written. Asks and tells nothing.
-extern "C" std::int16_t ConvertOdsHts(const char *path);
+extern "C" [[gnu::visibility("default")]] std::int16_t ConvertOdsHts(const char *path);
 
 namespace corvanta {
 

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <utility>
 
 namespace corvanta {
@@ -127,6 +128,14 @@ int codePageOfLocale(std::string_view locale)
         return cyrillic ? 1251 : codePage;
     }
     return 1252;
+}
+
+int codePageOfEnvironment()
+{
+    for (const char *variable : {"LC_ALL", "LC_CTYPE", "LANG"})
+        if (const char *value = std::getenv(variable); value && *value)
+            return codePageOfLocale(value);
+    return codePageOfLocale("");
 }
 
 char32_t characterOf(unsigned char byte) { return byte < 0x80 ? byte : current().table->upperHalf[byte - 0x80]; }

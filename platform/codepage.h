@@ -17,6 +17,9 @@ int codePageNumber();
 // The code page of a user's language, from a locale name such as "de_DE.UTF-8"; 1252 when unknown.
 int codePageOfLocale(std::string_view locale);
 
+// The code page of the language that the environment names (LC_ALL, LC_CTYPE or LANG).
+int codePageOfEnvironment();
+
 // The Unicode character of a byte.
 char32_t characterOf(unsigned char byte);
 

@@ -4,21 +4,11 @@
 
 #include <CLI/CLI.hpp>
 
-#include <cstdlib>
 #include <iostream>
 #include <string>
 #include <vector>
 
 namespace {
-
-// The user's language as the system's programs find it.
-std::string locale()
-{
-    for (const char *variable : {"LC_ALL", "LC_CTYPE", "LANG"})
-        if (const char *value = std::getenv(variable); value && *value)
-            return value;
-    return {};
-}
 
 bool convert(const std::string &file)
 {
@@ -41,7 +31,7 @@ int main(int argc, char **argv)
     app.add_option("FILE", files, "Page files")->required();
     CLI11_PARSE(app, argc, argv);
 
-    if (!corvanta::setCodePage(codePage != 0 ? codePage : corvanta::codePageOfLocale(locale()))) {
+    if (!corvanta::setCodePage(codePage != 0 ? codePage : corvanta::codePageOfEnvironment())) {
         std::cerr << "ods2hts: unknown code page " << codePage << '\n';
         return 1;
     }

@@ -62,8 +62,13 @@ int runOdspage(int argc, const char *const *argv, std::ostream &out, std::ostrea
     CLI::App app("Page files and object files of the Corvanta Form Editor, without a display.", "odspage");
     app.require_subcommand(1);
     useCodePage(usualCodePage);
-    app.add_option_function<int>("--codepage", useCodePage,
-                                 "code page of the texts in the files: 874 or 1250 to 1258 (default 1252)");
+    app.add_option_function<int>(
+        "--codepage",
+        [&run](int number) {
+            useCodePage(number);
+            run.codePageGiven = true;
+        },
+        "code page of the texts in the files: 874 or 1250 to 1258 (default 1252; for html that of the language)");
     for (const AddCommand add : commands)
         add(app, run);
     for (CLI::App *command : app.get_subcommands({}))

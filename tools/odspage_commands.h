@@ -12,6 +12,7 @@ namespace corvanta {
 struct ToolRun {
     std::ostream &out, &err;
     int exitCode = 0;
+    bool codePageGiven = false;
 };
 
 // Runs the command line; returns the exit code.

@@ -1,4 +1,5 @@
 #include "converter/ods2hts.h"
+#include "platform/codepage.h"
 #include "platform/paths.h"
 #include "tools/odspage_commands.h"
 
@@ -26,6 +27,8 @@ void addHtmlCommand(CLI::App &app, ToolRun &run)
     const auto files = std::make_shared<std::vector<std::string>>();
     command->add_option("FILE", *files, "page files (.ods)")->required();
     command->callback([&run, files] {
+        if (!run.codePageGiven)
+            setCodePage(codePageOfEnvironment());
         for (const std::string &file : *files)
             if (!convert(run, file))
                 run.exitCode = 1;

@@ -31,6 +31,7 @@ void addBrowse(Fields &fields, const char *name, QLineEdit &field)
             return;
         field.setText(toQString(file.substr(0, stop)));
         editing().curdir = directoryPart(*path);
+        field.setFocus();
     });
 }
 

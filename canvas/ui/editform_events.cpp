@@ -133,6 +133,7 @@ void Editform::objectChanged(std::int16_t index)
 
 void Editform::drop(QPoint at, const DragPayload &payload)
 {
+    activateWindow(); // its keys go to the new object
     const auto kind = kindOf(payload.payload.toShort());
     if (payload.tag == "obj" && kind)
         dropObject(*kind, {at.x(), at.y()});

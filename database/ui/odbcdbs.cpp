@@ -8,6 +8,8 @@
 #include "platform/qt/text.h"
 
 #include <QApplication>
+#include <QCoreApplication>
+#include <QEventLoop>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
@@ -77,7 +79,8 @@ void Odbcdbs::addTables(QVBoxLayout &layout)
     Group group = addGroup(layout, "table", "Table");
     dbslist = addListRow(group.fields, "dbslist", "");
     dbslist->installEventFilter(this);
-    connect(dbslist, &QListWidget::itemClicked, this, [this] { tableClicked(); });
+    // On the press: a drag of a table lists its columns too.
+    connect(dbslist, &QListWidget::itemPressed, this, [this] { tableClicked(); });
     makeDragSource(*dbslist->viewport(), "dbs", [this] {
         const int row = selectedRow(*dbslist);
         return row < 0
@@ -120,8 +123,10 @@ bool Odbcdbs::eventFilter(QObject *watched, QEvent *event)
 void Odbcdbs::selectSource()
 {
     const std::string reply = askDataSource(connection().source);
-    if (!reply.empty())
-        showWaitPointer();
+    if (reply.empty())
+        return;
+    showWaitPointer();
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); // the closed dialog leaves the screen
     if (SelectDataSource(connection(), reply))
         showConnection();
 }
@@ -137,6 +142,8 @@ void Odbcdbs::tableClicked()
 void Odbcdbs::tableKeyReleased()
 {
     const int before = connection().listedTable;
+    if (selectedRow(*dbslist) == before)
+        return;
     showWaitPointer();
     listColumnsAfterKey(connection(), selectedRow(*dbslist));
     if (connection().listedTable != before)

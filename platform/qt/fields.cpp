@@ -251,6 +251,7 @@ QPushButton *addButtonBeside(Fields &fields, const char *name, const QString &ca
     auto *button = new QPushButton(caption, parentOf(fields));
     button->setObjectName(name);
     button->setAccessibleName(plainLabel(caption) + ' ' + fields.latest->accessibleName());
+    button->setAutoDefault(false); // Enter is OK, also after this button was used
     fields.row->addWidget(button);
     return button;
 }

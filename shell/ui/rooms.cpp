@@ -29,7 +29,12 @@ Rooms::Rooms(EditorWindows &windows) : editor(windows)
 {
     LaterCommands &commands = laterCommands();
     commands.openObjectProperties = openCurrentProperties;
-    commands.openPageProperties = [] { openPageProperties(); };
+    commands.openPageProperties = [this] {
+        openPageProperties([this] {
+            if (editor.canvas())
+                editor.canvas()->activateWindow();
+        });
+    };
     commands.exportHtml = ConvertToHtml;
     commands.playAnimation = [this] { showPlayer(editor.canvas()); };
     commands.toggleOdbc = [this](bool shown) { showOdbc(shown); };
