@@ -50,6 +50,7 @@ void addStyles(QBoxLayout &layout, FontControls &controls)
     controls.strikethru = addCheckRow(effects.fields, "strikethru", "Stri&keout");
     controls.underline = addCheckRow(effects.fields, "underline", "&Underline");
     controls.colour = new QPushButton("Select", effects.box);
+    controls.colour->setAutoDefault(false); // Enter is OK
     addWidgetRow(effects.fields, *controls.colour, "forecolor", "&Color:");
 }
 

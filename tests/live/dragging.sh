@@ -26,6 +26,14 @@ keys alt+f
 wait_until has_window 'Font'
 activate 'Font'
 keys alt+b
+keys alt+c space
+wait_until has_window 'Color'
+activate 'Color'
+keys alt+h ctrl+a
+type_text '#ff0000'
+keys Return
+wait_until no_window 'Color'
+activate 'Font'
 keys Return
 wait_until no_window 'Font'
 activate 'Button Properties'
@@ -50,6 +58,7 @@ button = page["objects"][-1]
 assert button["kind"] == 1 and (button["pleft"], button["ptop"]) == (400, 330), (button["pleft"], button["ptop"])
 assert button["kindextra"]["Caption"] == "Go home", button["kindextra"]["Caption"]
 assert button["kindextra"]["font"]["FontBold"] is True, button["kindextra"]["font"]
+assert button["kindextra"]["font"]["ForeColor"] == 0x0000FF, button["kindextra"]["font"]
 assert button["actlist"] == {"code": 1, "page": "MENU"}, button["actlist"]
 PY
 end_editor
