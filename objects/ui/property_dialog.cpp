@@ -52,10 +52,16 @@ void PropertyDialog::complete()
     for (const auto &load : loads)
         load();
     CentreDialog(*this);
-    if (auto *first = findChild<QLineEdit *>()) {
-        first->setFocus();
-        first->selectAll();
-    }
+    selectFirstField();
+}
+
+void PropertyDialog::selectFirstField()
+{
+    for (QWidget *w = nextInFocusChain(); w != this; w = w->nextInFocusChain())
+        if (auto *edit = qobject_cast<QLineEdit *>(w)) {
+            edit->setFocus();
+            return edit->selectAll();
+        }
 }
 
 // The image name of a Button or Image is shown as it is checked: without blanks around it.

@@ -42,6 +42,7 @@ public:
     PropertyFields values;
 
 private:
+    void selectFirstField();
     void trimFileName();
     void confirm();
 
