@@ -54,41 +54,6 @@ TEST(ActionText, MissingValuesReadAsZeroOrEmpty)
     EXPECT_EQ(encodeAction({8, {}}), "\x08\0\0\0"s);
 }
 
-TEST(ActionText, AnEmptyPageNameIsStoredAsTop)
-{
-    const Bytes top = "\x01\0\x03\0TOP"s;
-    EXPECT_EQ(withTopPage("\x01\0\0\0"s), top);
-    EXPECT_EQ(withTopPage("\x01\0"s), top);
-    EXPECT_EQ(withTopPage("\x01\0\x01\0X"s), "\x01\0\x01\0X"s);
-    EXPECT_EQ(withTopPage(""), "");
-    EXPECT_EQ(withTopPage("\x0A\0\0\0"s), "\x0A\0\0\0"s);
-}
-
-TEST(ActionListText, EntriesAreStringsOfTwoStrings)
-{
-    const std::vector<ActionEntry> entries = {{"\0\0"s, " as typed "}, {encodeActionList({{"\x08\x02", "in"}}), ""}};
-    const Bytes inner = "\0\x02\x01\0\x08\0\x02\0\x08\x02\x02\0in"s;
-    const Bytes text = "\0\x02\x02\0\x10\0\x02\0\0\0\x0A\0 as typed \x12\0\x0E\0"s + inner + "\0\0"s;
-    ASSERT_EQ(encodeActionList(entries), text);
-    const auto read = decodeActionList(text);
-    ASSERT_EQ(read.size(), 2U);
-    EXPECT_EQ(read[0].status, " as typed ");
-    EXPECT_EQ(read[1].action, inner);
-    EXPECT_EQ(decodeActionList(read[1].action).at(0).status, "in");
-    EXPECT_EQ(encodeActionList({}), "\0\x02\0\0"s);
-    EXPECT_EQ(encodeActionEntry({}), "\0\0\0\0"s);
-}
-
-TEST(ActionListText, DamagedCountsGiveEmptyEntriesWithinBounds)
-{
-    EXPECT_TRUE(decodeActionList("").empty());
-    EXPECT_TRUE(decodeActionList("\0\x02\xFF\xFF"s).empty()) << "a negative count";
-    EXPECT_EQ(decodeActionList("\0\x02\x03\0"s).size(), 3U) << "entries that are missing are empty";
-    EXPECT_LE(decodeActionList("\0\x02\xFF\x7F"s).size(), 50U);
-    const std::vector<ActionEntry> many(2000);
-    EXPECT_EQ(decodeActionList(encodeActionList(many)).size(), many.size());
-}
-
 } // namespace
 
 } // namespace corvanta

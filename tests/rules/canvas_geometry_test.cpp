@@ -13,14 +13,6 @@ TEST(CanvasGeometry, HandlesStandOnTheEdgePixels)
     EXPECT_EQ(pointerShape(Handle::BottomLeft), PointerShape::SizeNeSw);
 }
 
-TEST(CanvasGeometry, PushedInsideGoesToEachEdge)
-{
-    const Size pageSize{640, 480};
-    EXPECT_EQ(pushedInside({-7, -9, 100, 20}, pageSize), (Rect{0, 0, 100, 20}));
-    EXPECT_EQ(pushedInside({600, 479, 100, 20}, pageSize), (Rect{540, 460, 100, 20}));
-    EXPECT_EQ(pushedInside({5, 5, 700, 500}, pageSize), (Rect{-60, -20, 700, 500}));
-}
-
 struct ResizeCase {
     Handle handle;
     Rect inwards, tooFar; // with the point at (120, 65), and far beyond the opposite corner

@@ -71,22 +71,6 @@ TEST_F(CanvasGestures, EscEndsADragWithoutAChange)
     EXPECT_FALSE(cancelGesture());
 }
 
-TEST_F(CanvasGestures, ModifierAtTheReleaseDropsTheDrag)
-{
-    pressObject(a, left({110, 55}));
-    moveObject(left({150, 60}));
-    releaseObject(a, ctrlLeft({150, 60}));
-    EXPECT_FALSE(outline);
-    EXPECT_FALSE(gesture().dragging);
-    EXPECT_EQ(slot(a), 1);
-    pressObject(b, left({310, 210}));
-    moveObject(left({350, 260}));
-    releaseObject(b, {.at = {350, 260}, .left = true, .shift = true});
-    EXPECT_FALSE(outline);
-    EXPECT_FALSE(gesture().dragging);
-    EXPECT_FALSE(editing().pagedirty);
-}
-
 class CanvasGroup : public CanvasGestures {
 protected:
     CanvasGroup()
@@ -129,28 +113,6 @@ TEST_F(CanvasGroup, DisplacementIsCutAtEachEdge)
     EXPECT_EQ(displacement(), (Point{190, 155}));
     EXPECT_EQ(rect(c), (Rect{590, 455, 50, 25}));
     EXPECT_EQ(rect(a), (Rect{290, 205, 100, 20}));
-}
-
-TEST_F(CanvasGroup, EscKeepsMembersAndPlaces)
-{
-    pressObject(b, left({310, 210}));
-    moveObject(left({330, 200}));
-    cancelGesture();
-    EXPECT_FALSE(groupFrame);
-    EXPECT_FALSE(trackers);
-    EXPECT_EQ(displacement(), (Point{0, 0}));
-    EXPECT_EQ(slot(c), 3);
-    EXPECT_EQ(edits, 0);
-}
-
-TEST_F(CanvasGroup, AnObjectOutsideTheGroupMovesAlone)
-{
-    const auto d = add(Kind::Label, {10, 400, 50, 20});
-    drag(d, {12, 402}, {22, 402});
-    EXPECT_EQ(rect(d), (Rect{20, 400, 50, 20}));
-    EXPECT_EQ(displacement(), (Point{0, 0}));
-    EXPECT_EQ(editing().multcount, 0);
-    EXPECT_EQ(trackers, rect(d));
 }
 
 TEST_F(CanvasGestures, ContentIsHiddenFromTheFirstMoveToTheEnd)
@@ -208,19 +170,6 @@ TEST_F(CanvasGestures, ResizeFollowsTheHandleInsideThePage)
     EXPECT_EQ(rect(a), (Rect{0, 0, 640, 480}));
 }
 
-TEST_F(CanvasGestures, ResizeOfAMemberChangesItAlone)
-{
-    click(a);
-    ctrlClick(b);
-    showTrackers();
-    pressHandle(Handle::Right, left({199, 60}));
-    moveHandle(left({180, 60}));
-    releaseHandle(left({180, 60}));
-    EXPECT_EQ(rect(a), (Rect{100, 50, 80, 20}));
-    EXPECT_EQ(markers.at(1), rect(a));
-    EXPECT_EQ(rect(b), (Rect{300, 200, 40, 30}));
-}
-
 TEST_F(CanvasGestures, HandleThatDoesNotMoveAndEscChangeNothing)
 {
     click(a);
@@ -236,18 +185,6 @@ TEST_F(CanvasGestures, HandleThatDoesNotMoveAndEscChangeNothing)
     EXPECT_EQ(rect(a), (Rect{100, 50, 100, 20}));
     EXPECT_EQ(trackers, rect(a));
     EXPECT_FALSE(editing().pagedirty);
-}
-
-TEST_F(CanvasGestures, RemovingThePressedObjectEndsTheDrag)
-{
-    pressObject(c, left({401, 301}));
-    moveObject(left({411, 301}));
-    deleteObject(c);
-    EXPECT_FALSE(gesture().dragging);
-    EXPECT_FALSE(outline);
-    moveObject(left({421, 301}));
-    releaseObject(noObject, left({421, 301}));
-    EXPECT_FALSE(outline);
 }
 
 } // namespace

@@ -3,11 +3,7 @@
 #include "canvas/gestures.h"
 #include "canvas/lifecycle.h"
 #include "canvas/selection.h"
-#include "document/events.h"
-#include "document/objects.h"
-#include "document/page_file.h"
-
-#include <gtest/gtest.h>
+#include "tests/support/fresh_page.h"
 
 #include <map>
 #include <optional>
@@ -15,38 +11,24 @@
 namespace corvanta {
 
 // The process-wide page at 640 by 480 pixels with a canvas that notes what it is told.
-class CanvasPage : public testing::Test {
+class CanvasPage : public FreshPage {
 protected:
-    CanvasPage()
+    CanvasPage() : FreshPage(640, 480)
     {
-        documentEvents() = {};
         documentEvents().objectRemoving = objectLeavesCanvas;
         documentEvents().pageReset = resetCanvas;
         documentEvents().edited = [this] { ++edits; };
-        newPage();
-        editing() = {};
-        page().bkgwd = 640;
-        page().bkght = 480;
         listen();
     }
     ~CanvasPage() override
     {
         newPage();
-        editing() = {};
-        documentEvents() = {};
         canvasEvents() = {};
     }
 
-    std::int16_t add(Kind kind, const Rect &r)
-    {
-        const std::int16_t index = addObject(kind);
-        setObjectGeometry(index, toPixels(r.top), toPixels(r.left), toPixels(r.height), toPixels(r.width));
-        editing().pagedirty = false;
-        return index;
-    }
-
-    static Rect rect(std::int16_t index) { return rectOf(page().objects[static_cast<std::size_t>(index)]); }
-    static std::int16_t slot(std::int16_t index) { return page().objects[static_cast<std::size_t>(index)].selslot; }
+    static std::int16_t add(Kind kind, const Rect &r) { return addAt(kind, r.left, r.top, r.width, r.height); }
+    static Rect rect(std::int16_t index) { return rectOf(object(index)); }
+    static std::int16_t slot(std::int16_t index) { return object(index).selslot; }
 
     static Mouse left(Point at) { return {.at = at, .left = true}; }
     static Mouse ctrlLeft(Point at) { return {.at = at, .left = true, .ctrl = true}; }

@@ -42,7 +42,7 @@ protected:
         std::vector<Frame> frames;
         for (const std::int16_t duration : durations)
             frames.emplace_back().duration = duration;
-        page().objects[static_cast<std::size_t>(index)].srcfile = "one.bmp\t\ttwo.bmp\tding.wav\tthree.bmp";
+        object(index).srcfile = "one.bmp\t\ttwo.bmp\tding.wav\tthree.bmp";
         storeFrames(page(), index, frames);
         setCurrentObject(index);
         return index;
@@ -78,48 +78,6 @@ TEST_F(CanvasRunning, TickerScrollsOutAndEntersAgain)
     EXPECT_EQ(tickerLeft, 540);
 }
 
-TEST_F(CanvasRunning, DeletedTickerStopsTheTimerAtTheNextTick)
-{
-    const auto a = add(Kind::Ticker, {10, 10, 40, 20});
-    add(Kind::Ticker, {10, 50, 40, 20});
-    startRunning(Kind::Ticker, 2);
-    EXPECT_EQ(running().list, (std::vector<RunningPair>{{7, 1}, {7, 2}}));
-    deleteObject(a);
-    EXPECT_EQ(running().list, (std::vector<RunningPair>{{7, 2}}));
-    timerStep();
-    EXPECT_TRUE(timer);
-    deleteObject(0);
-    EXPECT_TRUE(timer);
-    timerStep();
-    EXPECT_FALSE(timer);
-}
-
-TEST_F(CanvasRunning, TickDuringAStepDoesNothing)
-{
-    add(Kind::Ticker, {10, 10, 40, 20});
-    page().tkrextras[1] = 1;
-    runningEvents().tickerMoved = [this](std::int16_t, int left) {
-        tickerLeft = left;
-        timerStep();
-    };
-    timerStep();
-    EXPECT_EQ(tickerLeft, -15);
-    timerStep();
-    EXPECT_EQ(tickerLeft, -30);
-}
-
-TEST_F(CanvasRunning, PressedTickerPausesWhileErrorsAreTold)
-{
-    add(Kind::Ticker, {10, 10, 40, 20});
-    pressTicker();
-    EXPECT_TRUE(timer);
-    editing().msgflag = true;
-    pressTicker();
-    EXPECT_FALSE(timer);
-    releaseTicker();
-    EXPECT_TRUE(timer);
-}
-
 TEST_F(CanvasRunning, FramesStayForTheirDuration)
 {
     addAnimation({2, 5, 1});
@@ -153,46 +111,6 @@ TEST_F(CanvasRunning, StrictTimingMakesUpForLateFrames)
     EXPECT_EQ(shown.size(), 5U);
 }
 
-TEST_F(CanvasRunning, ElapsedTimeIsA16BitValue)
-{
-    addAnimation({2, 1});
-    startAnimation(1);
-    tickAfter(32'768 * 100);
-    EXPECT_EQ(shown.size(), 1U); // as -32768
-    tickAfter(32'770 * 100);
-    EXPECT_EQ(shown.size(), 2U); // as 2
-}
-
-TEST_F(CanvasRunning, ClockGoneBackAdvancesAtOnce)
-{
-    addAnimation({50, 50});
-    startAnimation(1);
-    clock.now -= 500;
-    timerStep();
-    EXPECT_EQ(shown, (std::vector<int>{1, 2}));
-    timerStep();
-    EXPECT_EQ(shown.size(), 2U);
-}
-
-TEST_F(CanvasRunning, PlayCountEndsOutsideTheEditorOnly)
-{
-    addAnimation({1, 1});
-    extras().nplay = 2;
-    startAnimation(1);
-    for (int i = 0; i < 6; ++i)
-        tickAfter(100);
-    EXPECT_EQ(shown, (std::vector<int>{1, 2, 1, 2}));
-    EXPECT_FALSE(timer);
-
-    editing().msgflag = true;
-    startAnimation(1);
-    shown.clear();
-    for (int i = 0; i < 6; ++i)
-        tickAfter(100);
-    EXPECT_EQ(shown.size(), 6U);
-    EXPECT_TRUE(timer);
-}
-
 TEST_F(CanvasRunning, ShownFramePlaysItsSoundFromThePageDirectory)
 {
     editing().curdir = "C:\\PAGES\\";
@@ -219,24 +137,6 @@ TEST_F(CanvasRunning, PlayerPlaysUntilItIsClosed)
     timerStep();
     EXPECT_FALSE(timer);
     EXPECT_FALSE(editing().pagedirty);
-}
-
-TEST_F(CanvasRunning, PlayerWithoutFramesChangesNothing)
-{
-    addAnimation({});
-    showTrackers();
-    const PlayerTexts texts = openPlayer();
-    EXPECT_EQ(texts.playtext, "No frames to play.");
-    EXPECT_EQ(texts.stopbut, "Close");
-    EXPECT_FALSE(playerBusy());
-    EXPECT_TRUE(trackers);
-    closePlayer();
-    EXPECT_FALSE(preview);
-    EXPECT_TRUE(running().list.empty());
-
-    add(Kind::Label, {10, 10, 40, 20});
-    setCurrentObject(1);
-    EXPECT_EQ(openPlayer().playtext, "No frames to play.");
 }
 
 } // namespace

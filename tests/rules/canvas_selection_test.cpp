@@ -1,5 +1,3 @@
-#include "canvas/clicks.h"
-#include "canvas/keys.h"
 #include "tests/rules/canvas_page.h"
 
 namespace corvanta {
@@ -11,29 +9,6 @@ protected:
     std::int16_t b = add(Kind::Label, {100, 10, 60, 20});
     std::int16_t c = add(Kind::Image, {200, 10, 70, 30});
 };
-
-TEST_F(CanvasSelection, PlainClickSelectsBringsToFrontAndShowsHandles)
-{
-    click(a);
-    EXPECT_EQ(editing().curobj, a);
-    EXPECT_EQ(fronted, std::vector<std::int16_t>{a});
-    EXPECT_EQ(trackers, rect(a));
-    EXPECT_EQ(page().objects[0].kind, static_cast<std::int16_t>(Kind::Button));
-
-    click(noObject);
-    EXPECT_EQ(editing().curobj, noObject);
-    EXPECT_FALSE(trackers);
-    EXPECT_FALSE(editing().pagedirty);
-}
-
-TEST_F(CanvasSelection, OtherPressesSelectNothing)
-{
-    pressObject(a, {.at = {12, 12}, .otherButton = true});
-    pressObject(a, {.at = {12, 12}, .left = true, .shift = true});
-    pressObject(a, {.at = {12, 12}, .left = true, .alt = true});
-    EXPECT_EQ(editing().curobj, noObject);
-    EXPECT_FALSE(gesture().dragging);
-}
 
 TEST_F(CanvasSelection, CtrlClicksGiveAndFreeSlots)
 {
@@ -55,32 +30,6 @@ TEST_F(CanvasSelection, CtrlClicksGiveAndFreeSlots)
     EXPECT_EQ(slot(c), 1);
     EXPECT_EQ(editing().multcount, 1);
     EXPECT_EQ(markers.at(1), rect(c));
-}
-
-TEST_F(CanvasSelection, CtrlClickWithoutCurrentObjectTakesTheClickedOneOnly)
-{
-    ctrlClick(b);
-    EXPECT_EQ(slot(b), 1);
-    EXPECT_EQ(editing().curobj, noObject);
-    click(a);
-    EXPECT_EQ(slot(b), 0);
-    EXPECT_EQ(editing().multcount, 0);
-    EXPECT_TRUE(markers.empty());
-    ctrlClick(a);
-    EXPECT_EQ(slot(a), 1);
-}
-
-TEST_F(CanvasSelection, PlainClickOnAMemberKeepsTheMembersAndChangesTheReference)
-{
-    click(a);
-    ctrlClick(b);
-    click(b);
-    EXPECT_EQ(editing().curobj, b);
-    EXPECT_EQ(editing().multcount, 2);
-    EXPECT_FALSE(trackers);
-    click(c);
-    EXPECT_EQ(editing().multcount, 0);
-    EXPECT_EQ(trackers, rect(c));
 }
 
 TEST_F(CanvasSelection, DeletedObjectsLeaveTheSelection)
@@ -119,56 +68,6 @@ TEST_F(CanvasSelection, AlignmentFollowsTheCurrentObject)
     ctrlClick(a); // stays the reference
     alignSelection(2);
     EXPECT_EQ(rect(a), (Rect{10, 10, 50, 20}));
-}
-
-TEST_F(CanvasSelection, AlignmentNeedsMembersAReferenceAndAMode)
-{
-    click(a);
-    alignSelection(0);
-    ctrlClick(b);
-    alignSelection(4);
-    alignSelection(-1);
-    setCurrentObject(noObject);
-    alignSelection(1);
-    EXPECT_FALSE(editing().pagedirty);
-    EXPECT_EQ(edits, 0);
-}
-
-TEST_F(CanvasSelection, KeysNeedACurrentObjectAndNoDrag)
-{
-    const KeyModifiers alt{.alt = true};
-    EXPECT_EQ(keyDownCommand(13, alt), CanvasCommand::None);
-    EXPECT_EQ(keyUpCommand(46), CanvasCommand::None);
-    EXPECT_EQ(keyDownCommand('O', alt), CanvasCommand::ObjectMenu);
-    EXPECT_EQ(keyDownCommand('O', {}), CanvasCommand::None);
-    click(a);
-    EXPECT_EQ(keyDownCommand(13, alt), CanvasCommand::Properties);
-    EXPECT_EQ(keyDownCommand(13, {}), CanvasCommand::None);
-    EXPECT_EQ(keyUpCommand(46), CanvasCommand::Delete);
-    EXPECT_EQ(keyPressCommand(27), CanvasCommand::None);
-    pressObject(a, left({12, 12}));
-    EXPECT_EQ(keyDownCommand(13, alt), CanvasCommand::None);
-    EXPECT_EQ(keyUpCommand(46), CanvasCommand::None);
-    EXPECT_EQ(keyPressCommand(27), CanvasCommand::Cancel);
-}
-
-TEST(CanvasClicks, OnlyTheFirstIntervalMakesADoubleClick)
-{
-    ClickCounter counter;
-    EXPECT_FALSE(counter.click());
-    EXPECT_TRUE(counter.waiting());
-    EXPECT_TRUE(counter.click());
-    EXPECT_FALSE(counter.waiting());
-    EXPECT_FALSE(counter.tick()); // a late tick starts nothing
-
-    EXPECT_FALSE(counter.click());
-    EXPECT_TRUE(counter.tick());
-    EXPECT_FALSE(counter.click()); // 150 ms
-    EXPECT_TRUE(counter.tick());
-    EXPECT_FALSE(counter.click());
-    EXPECT_FALSE(counter.tick());
-    EXPECT_FALSE(counter.click());
-    EXPECT_TRUE(counter.click());
 }
 
 } // namespace

@@ -39,14 +39,6 @@ TEST(ConverterActions, AMessageBoxIsADialogThatNeedsNoScript)
                             "popovertargetaction=\"hide\">OK</button></dialog>"));
 }
 
-TEST(ConverterActions, OnlyAFormWithoutASubmitButtonGetsOne)
-{
-    Page p;
-    EXPECT_TRUE(holds(htmlTemplate(p), "class=\"send below\""));
-    recordAt(p, addCaptioned(p, Kind::Button, "Go")).actlist = encodeAction({action::closePage, {}});
-    EXPECT_FALSE(holds(htmlTemplate(p), "class=\"send below\""));
-}
-
 struct FieldCase {
     std::int16_t inptype, sysobj, maxlen, flags;
     PageKind page;
@@ -84,18 +76,6 @@ TEST(ConverterFields, TextBoxesFollowTypeSystemObjectFlagsAndPage)
     }
 }
 
-TEST(ConverterFields, ChoicesKeepTheirEntries)
-{
-    Page p;
-    addTo(p, Kind::ComboBox);
-    p.cbxextras.back() = {"a\"b", "", "c"};
-    addTo(p, Kind::ListBox, 0, 0, 100, 84);
-    p.lbxextras.back() = {{"One", ""}, {"", ""}};
-    EXPECT_TRUE(holds(elementLine(p, 0), " list=\"o0l\"><datalist id=\"o0l\"><option value=\"a&quot;b\"></option>"
-                                         "<option value=\"c\"></option></datalist>"));
-    EXPECT_TRUE(holds(elementLine(p, 1), " size=\"6\"><option value=\"0\">One</option><option value=\"1\">&nbsp;"));
-}
-
 TEST(ConverterGrid, ColumnsAreHeaderCellsOfTheirWidth)
 {
     Page p;
@@ -126,16 +106,6 @@ TEST(ConverterMoving, AnAnimationStepsThroughItsFramesAndStaysOnTheLast)
     p.aniextras.back().frozen = 1;
     html = htmlTemplate(p);
     EXPECT_TRUE(holds(html, "#o0f2{left:0px;top:0px;animation:o0f2 2s step-end infinite;}"));
-}
-
-TEST(ConverterMoving, ATickerCrossesItsStripInItsTime)
-{
-    Page p;
-    const auto index = addCaptioned(p, Kind::Ticker, std::string(100, 'x'));
-    elementOf(p, index)->font.FontSize = 12;
-    p.tkrextras[1] = 4;
-    EXPECT_TRUE(holds(htmlTemplate(p), "#o0 span{animation-duration:1.8s}")); // (100 + 100 * 8) px, 4 px in 8 ms
-    EXPECT_TRUE(holds(htmlTemplate(p), "@media (prefers-reduced-motion:reduce)"));
 }
 
 TEST(ConverterTemplate, DocumentFollowsThePagesFields)

@@ -57,15 +57,5 @@ TEST(ConverterLabels, EachFieldHasALabelAReferenceOrAText)
     EXPECT_TRUE(holds(elementLine(p, near), " aria-labelledby=\"o0\""));
 }
 
-TEST(ConverterLabels, FormNamesAreTheObjectNamesMadeUnique)
-{
-    Page p;
-    for (const char *name : {"city", "city", "", "object", "isindex", "caf\xe9"})
-        recordAt(p, addTo(p, Kind::TextBox)).ctlname = name;
-    recordAt(p, addTo(p, Kind::Url)).ctlname = "link";
-    EXPECT_EQ(fieldNames(p),
-              (std::vector<std::string>{"city", "city-1", "object-2", "object-3", "isindex-4", "café", "", ""}));
-}
-
 } // namespace
 } // namespace corvanta

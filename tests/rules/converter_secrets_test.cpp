@@ -109,22 +109,6 @@ TEST(ConverterFile, TheTemplateIsWrittenBesideThePage)
         EXPECT_FALSE(holds(html, secret)) << secret;
 }
 
-TEST(ConverterFile, ATextBoxShowsItsTextFileFromThePagesDirectoryOnly)
-{
-    Page p;
-    for (const char *file : {"NOTE.TXT", "..\\OUTSIDE.TXT", "MISSING.TXT"})
-        recordAt(p, addTo(p, Kind::TextBox)).srcfile = file;
-    const TemporaryDrive drive;
-    drive.add("PAGES/X.ODS", serialisePage(p));
-    drive.add("PAGES/NOTE.TXT", "Read <me>\x1A");
-    drive.add("OUTSIDE.TXT", "outside");
-    ASSERT_NE(ConvertOdsHts("C:\\PAGES\\X.ODS"), 0);
-    const std::string html = hostBytes(drive.root() / "PAGES/X.hts");
-    EXPECT_TRUE(holds(elementLine(html, 0), " value=\"Read &lt;me&gt;\""));
-    EXPECT_FALSE(holds(elementLine(html, 1), " value="));
-    EXPECT_FALSE(holds(elementLine(html, 2), " value="));
-}
-
 TEST(ConverterFile, FailuresWriteNothing)
 {
     const TemporaryDrive drive;
@@ -140,16 +124,6 @@ TEST(ConverterFile, FailuresWriteNothing)
     EXPECT_EQ(hostBytes(drive.root() / "PAGES/PAGE.HTS"), samples::sample("menu.ods"));
     EXPECT_EQ(templatePath("C:\\PAGES\\MENU.ODS"), "C:\\PAGES\\MENU.hts");
     EXPECT_EQ(templatePath("AB"), "hts");
-}
-
-TEST(ConverterFile, DamagedPagesConvertToo)
-{
-    const std::string bytes = samples::sample("menu.ods");
-    for (std::size_t length = 1; length < bytes.size(); ++length) {
-        Page p;
-        parsePage(p, std::string_view(bytes).substr(0, length));
-        ASSERT_TRUE(htmlTemplate(p).ends_with("</html>\n")) << length;
-    }
 }
 
 } // namespace

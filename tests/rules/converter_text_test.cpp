@@ -1,7 +1,5 @@
 #include "converter/address.h"
-#include "converter/css.h"
 #include "converter/text.h"
-#include "platform/codepage.h"
 
 #include <gtest/gtest.h>
 
@@ -14,29 +12,6 @@ TEST(ConverterText, MarkupAndControlCharactersAreHarmless)
     EXPECT_EQ(escaped(std::string("a\0\x01\x1b\x7f\tb\r\nc\rd", 12)), "a\tb&#10;c&#10;d");
     EXPECT_EQ(escaped("\x81 caf\xe9 \x80"), " café €"); // 0x81 is undefined in code page 1252
     EXPECT_TRUE(isBlank(" \r\n\x01"));
-}
-
-TEST(ConverterText, TextsFollowTheCodePage)
-{
-    ASSERT_TRUE(setCodePage(1251));
-    EXPECT_EQ(escaped("\xcc\xe8\xf0"), "Мир");
-    EXPECT_EQ(mediaAddress("\xcc.bmp"), "%D0%9C.bmp");
-    ASSERT_TRUE(setCodePage(1252));
-}
-
-TEST(ConverterText, LinesAreCutByCharactersAndNotByBytes)
-{
-    EXPECT_EQ(oneLine(" a\r\nb\t", 10), "a b");
-    EXPECT_EQ(oneLine("\xe9\xe9\xe9", 3), "ééé");
-    EXPECT_EQ(oneLine("\xe9\xe9\xe9\xe9", 3), "éé…");
-}
-
-TEST(ConverterText, MnemonicMarksGo)
-{
-    EXPECT_EQ(withoutMnemonics("&Save && E&xit &", false), "Save & Exit &");
-    EXPECT_EQ(withoutMnemonics("&copy; &Save", false), "copy; Save");
-    EXPECT_EQ(withoutMnemonics("&copy; &#169; &Save; all", true), "&copy; &#169; &Save; all");
-    EXPECT_EQ(withoutMnemonics("&Save all; &&", true), "Save all; &");
 }
 
 TEST(ConverterAddress, OnlyHarmlessSchemesPass)
@@ -71,29 +46,6 @@ TEST(ConverterAddress, ImagesOfDatabasesHaveNoLocalDirectory)
         EXPECT_EQ(imageAddress(path, "photo"), "@photo@") << path;
     EXPECT_EQ(imageAddress("photos\\small", "photo"), "photos/small/@photo@");
     EXPECT_EQ(imageAddress("http://example.com/p/", "photo"), "http://example.com/p/@photo@");
-}
-
-TEST(ConverterCss, ColoursOfThePageAndOfTheSystem)
-{
-    EXPECT_EQ(cssColour(0x00123456), "#563412");
-    EXPECT_EQ(cssColour(static_cast<std::int32_t>(0x80000005)), "Canvas");
-    EXPECT_EQ(cssColour(static_cast<std::int32_t>(0x80000019)), "#000000"); // beyond the last system colour
-    EXPECT_EQ(cssColour(0x7F123456), "#563412");
-}
-
-TEST(ConverterCss, FontsHaveFallbacksAndPixels)
-{
-    FontBlock font;
-    font.FontBold = font.FontUnderline = true;
-    EXPECT_EQ(cssFont(font), "color:#000000;font:bold 11px \"MS Sans Serif\",Arial,Helvetica,sans-serif;"
-                             "text-decoration:underline;");
-    font = {.FontItalic = true, .FontName = "Courier\"};x{\n", .FontSize = 7.3F, .FontStrikethru = true};
-    EXPECT_EQ(cssFont(font), "color:#000000;font:italic 9.73px \"Courierx\",\"Courier New\",Courier,monospace;"
-                             "text-decoration:line-through;");
-    for (const float size : {0.0F, -3.0F, 1e30F}) {
-        font.FontSize = size;
-        EXPECT_EQ(fontPixels(font), 11) << size;
-    }
 }
 
 } // namespace

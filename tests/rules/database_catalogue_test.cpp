@@ -1,7 +1,8 @@
 #include "database/catalogue.h"
 #include "database/connection.h"
 #include "platform/codepage.h"
-#include "tests/rules/database_sources.h"
+#include "tests/support/database_sources.h"
+#include "tests/support/scripted_asking.h"
 
 #include <gtest/gtest.h>
 
@@ -12,6 +13,7 @@
 namespace corvanta {
 namespace {
 
+constexpr const char *sizes = "Gr\xF6\xDF\x65";           // in the code page
 using Types = std::map<std::string, std::pair<int, int>>; // name: type, length
 
 class Catalogue : public testing::Test {
@@ -53,10 +55,7 @@ protected:
 TEST_F(Catalogue, ListsSourcesOfUserAndSystemOnce)
 {
     std::vector<std::string> names = dataSources();
-    for (const char *name : {"Shop",
-                             "Gr\xF6\xDF"
-                             "e",
-                             "Types", "Lost File", "Archive"})
+    for (const char *name : {"Shop", sizes, "Types", "Lost File", "Archive"})
         EXPECT_EQ(std::count(names.begin(), names.end(), name), 1) << name;
     char name[nameBufferSize];
     EXPECT_NE(GetNextOdbcDsn(name), 0);
@@ -64,9 +63,7 @@ TEST_F(Catalogue, ListsSourcesOfUserAndSystemOnce)
 
 TEST_F(Catalogue, ListsTablesAndViewsOfTheShop)
 {
-    for (const char *dsn : {"Shop", "Archive",
-                            "Gr\xF6\xDF"
-                            "e"}) {
+    for (const char *dsn : {"Shop", "Archive", sizes}) {
         ASSERT_EQ(ConnectDsn(dsn, "", ""), 0) << dsn;
         EXPECT_EQ(tablesOf(dsn), (std::vector<std::string>{"Customers", "H\xE4ndler", "Products", "Orders",
                                                            "Order Lines", "Open Orders", "PriceList"}));
@@ -111,24 +108,11 @@ TEST_F(Catalogue, TakesNamesLiterally)
         EXPECT_EQ(columnsOf("Types", "back\\slash"), (Types{{"path", {0, 9}}}));
         EXPECT_EQ(columnsOf("Types", "Stra\xDF"
                                      "e \x80"),
-                  (Types{{"Gr\xF6\xDF"
-                          "e",
-                          {0, 3}}}));
+                  (Types{{sizes, {0, 3}}}));
         EXPECT_TRUE(columnsOf("Types", "no such table").empty());
         if (!listed)
             tablesOf("Types");
     }
-}
-
-TEST_F(Catalogue, CutsLongNamesAndMarksForeignCharacters)
-{
-    ASSERT_EQ(ConnectDsn("Types", "", ""), 0);
-    std::vector<std::string> tables = tablesOf("Types");
-    std::string longName(255, 'n');
-    EXPECT_EQ(std::count(tables.begin(), tables.end(), longName), 1);
-    EXPECT_EQ(columnsOf("Types", longName), (Types{{std::string(255, 'c'), {3, 10}}}));
-    EXPECT_EQ(std::count(tables.begin(), tables.end(), "?"), 1);
-    EXPECT_EQ(columnsOf("Types", "?"), (Types{{"?mega ?", {1, 10}}}));
 }
 
 TEST_F(Catalogue, FailsWithoutAFileAndCreatesNone)
@@ -147,33 +131,21 @@ TEST_F(Catalogue, TellsWhyWithoutThePassword)
     failureOf("{Shop}", "");
 }
 
-TEST_F(Catalogue, GivesNothingWithoutAConnection)
+TEST_F(Catalogue, AFailedConnectionIsToldAndChangesNothing)
 {
-    char name[nameBufferSize];
-    std::int16_t type = 0, length = 0;
-    EXPECT_NE(GetFirstTableName("Shop", "", "", name), 0);
-    EXPECT_NE(GetFirstColumn("Shop", "", "", "Customers", name, type, length), 0);
-    EXPECT_NE(DisconnectDsn("Shop", ""), 0);
-    ASSERT_EQ(ConnectDsn("Shop", "", ""), 0);
-    EXPECT_NE(GetFirstTableName("Shop", "other user", "", name), 0);
-    EXPECT_EQ(GetFirstTableName("Shop", "", "", name), 0);
-    EXPECT_EQ(DisconnectDsn("Shop", ""), 0);
-    EXPECT_NE(GetFirstTableName("Shop", "", "", name), 0);
-    EXPECT_NE(GetNextTableName(name), 0);
-}
-
-TEST_F(Catalogue, KeepsItsEnumerationsApart)
-{
-    ASSERT_EQ(ConnectDsn("Shop", "", ""), 0);
-    ASSERT_EQ(ConnectDsn("Types", "", ""), 0);
-    char name[nameBufferSize], other[nameBufferSize];
-    std::int16_t type = 0, length = 0;
-    ASSERT_EQ(GetFirstTableName("Shop", "", "", name), 0);
-    ASSERT_EQ(GetFirstColumn("Types", "", "", "Seen", other, type, length), 0);
-    ASSERT_EQ(GetNextTableName(name), 0);
-    EXPECT_STREQ(name, "H\xE4ndler");
-    ASSERT_EQ(GetNextColumn(other, type, length), 0);
-    EXPECT_STREQ(other, "a_date");
+    Connection c;
+    EXPECT_FALSE(SelectDataSource(c, ""));
+    ASSERT_TRUE(SelectDataSource(c, "Shop\tann\tsecret"));
+    ListColumns(c, 3);
+    ScriptedAsking user;
+    user.expectMessage("Failure connecting to Lost File", "Error");
+    testing::internal::CaptureStderr();
+    EXPECT_FALSE(SelectDataSource(c, "Lost File\tben\tother"));
+    testing::internal::GetCapturedStderr();
+    EXPECT_EQ(c.source + "/" + c.user + "/" + c.password, "Shop/ann/secret");
+    EXPECT_EQ(c.columns.size(), 6U);
+    ListTables(c); // still connected
+    EXPECT_EQ(c.tables.size(), 7U);
 }
 
 } // namespace

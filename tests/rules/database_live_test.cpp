@@ -3,7 +3,7 @@
 #include "database/sql.h"
 #include "document/page_file.h"
 #include "platform/codepage.h"
-#include "tests/rules/database_sources.h"
+#include "tests/support/database_sources.h"
 #include "tests/support/samples.h"
 
 #include <gtest/gtest.h>
@@ -235,7 +235,7 @@ TEST_P(GeneratedStatements, RunForEverySamplePage)
             files.push_back(entry.path());
     for (const std::filesystem::path &file : files) {
         Page p;
-        parsePage(p, samples::bytesOf(file));
+        parsePage(p, hostBytes(file));
         std::string table = connectPart(p, 3);
         if (table.empty())
             continue;

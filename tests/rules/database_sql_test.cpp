@@ -63,13 +63,6 @@ TEST(SqlCondition, FollowsTheValueClass)
     EXPECT_EQ(conditionOf({"Photo", "photo", 0, "", Kind::ImageDb}), "Photo Like '@photo@%'");
 }
 
-TEST(SqlCondition, NumbersCountForTextBoxesOnly)
-{
-    Page p = pageOn("T", {{"Age", "age", 1}, {"City", "city", 0, "", Kind::ComboBox}});
-    EXPECT_EQ(p.ctlindex[0], p.ctlindex[1]); // the same element number, of another array
-    EXPECT_EQ(BuildCondition(p, 1).text, "City Like '@city@%'");
-}
-
 TEST(SqlGenerate, KeepsColumnsAndOrder)
 {
     Page p = pageOn("Customers", {{"Name", "custname"}});
@@ -116,20 +109,6 @@ TEST(SqlColumns, StandBetweenTheKeywords)
         EXPECT_EQ(ExtractColumnList(statement), "") << statement;
     EXPECT_EQ(DefaultColumns(""), "*");
     EXPECT_EQ(DefaultColumns("a, b"), "a, b");
-}
-
-TEST(SqlOrder, RunsToTheEnd)
-{
-    EXPECT_EQ(ExtractOrderBy("select a from t ORDER BY a desc  "), " ORDER BY a desc  ");
-    EXPECT_EQ(ExtractOrderBy("select a from border by x"), " order by x");
-    EXPECT_EQ(ExtractOrderBy("select a from t order"), "");
-}
-
-TEST(SqlWholeTable, QuotesBlanks)
-{
-    EXPECT_EQ(selectWholeTable("Customers").text, "Select * From Customers");
-    EXPECT_EQ(selectWholeTable("Order Lines").text, "Select * From \"Order Lines\"");
-    EXPECT_EQ(selectWholeTable("").error, "No default table.");
 }
 
 } // namespace

@@ -1,10 +1,8 @@
 #include "document/byte_codec.h"
 #include "document/object_file.h"
-#include "document/objects.h"
-#include "document/page_file.h"
+#include "tests/support/fresh_page.h"
 #include "tests/support/samples.h"
-
-#include <gtest/gtest.h>
+#include "tests/support/scripted_asking.h"
 
 namespace corvanta {
 namespace {
@@ -18,28 +16,6 @@ Page parsed(std::string_view bytes)
     return p;
 }
 
-TEST(PageFile, EmptyPageIsThirtyBytes)
-{
-    const std::string expected = "\x1C\x00\x03\x00\x00\x00\x02\x00\x09\x09\x00\x00\x00\x00\x00\x00\xC0\xC0\xC0\x00"
-                                 "\x00\x00\x00\x00\x08\x00\x00\x00\x00\x00"s;
-    EXPECT_EQ(serialisePage(Page()), expected);
-    EXPECT_EQ(samples::sample("empty.ods"), expected);
-}
-
-TEST(PageFile, SamplesAreWrittenBackByteForByte)
-{
-    for (const std::string &name : samples::currentPages())
-        EXPECT_EQ(serialisePage(parsed(samples::sample(name))), samples::sample(name)) << name;
-}
-
-TEST(PageFile, VersionOneReadsWithoutKeyAndIsWrittenAsThree)
-{
-    const Page p = parsed(samples::sample("version1.ods"));
-    EXPECT_EQ(p.pgversion, 1);
-    EXPECT_EQ(p.keyreq, "");
-    EXPECT_EQ(serialisePage(p), samples::sample("menu.ods"));
-}
-
 // Whatever is read from damaged bytes is written in a form that reads the same again.
 void expectStable(std::string_view bytes)
 {
@@ -47,17 +23,27 @@ void expectStable(std::string_view bytes)
     EXPECT_EQ(serialisePage(parsed(once)), once);
 }
 
+void expectStableObject(std::string_view bytes)
+{
+    Page p, again;
+    const std::string once = objectFileText(p, appendObjectFile(p, bytes));
+    EXPECT_EQ(objectFileText(again, appendObjectFile(again, once)), once);
+}
+
 TEST(PageFile, EveryCutOfEverySampleReads)
 {
     for (const auto &file : std::filesystem::directory_iterator(samples::folder())) {
-        const std::string bytes = file.path().extension() == ".ods" ? samples::bytesOf(file.path()) : std::string();
+        const std::string bytes = file.path().extension() != ".json" ? hostBytes(file.path()) : std::string();
 #ifdef __SANITIZE_ADDRESS__
         const std::size_t step = bytes.size() > 4000 ? 41 : 1; // the large page's objects are all alike
 #else
         const std::size_t step = 1;
 #endif
         for (std::size_t n = 0; n < bytes.size(); n += step)
-            expectStable(std::string_view(bytes).substr(0, n));
+            if (const auto cut = std::string_view(bytes).substr(0, n); file.path().extension() == ".ods")
+                expectStable(cut);
+            else
+                expectStableObject(cut);
     }
 }
 
@@ -70,20 +56,6 @@ TEST(PageFile, EveryFlippedByteReads)
             expectStable(bytes);
             byte = static_cast<char>(byte ^ mask);
         }
-}
-
-TEST(PageFile, UnknownKindKeepsItsCommonFields)
-{
-    ObjectRecord o;
-    o.kind = 14;
-    o.sptext = "kept";
-    ByteWriter body;
-    body.int16("", o.kind);
-    commonFields(body, o);
-    const Page p = parsed(serialisePage(Page()) + encodeString(body.out + "tail"));
-    ASSERT_EQ(objectCount(p), 1);
-    EXPECT_EQ(p.objects[0].sptext, "kept");
-    EXPECT_EQ(serialiseObject(p, 0), encodeString(body.out));
 }
 
 TEST(PageFile, CountsFromAFileAreBounded)
@@ -104,40 +76,6 @@ TEST(PageFile, CountsFromAFileAreBounded)
     EXPECT_EQ(gridColumnCount(counts(9, encodeInt16(51) + encodeString(""))), 50U);
 }
 
-TEST(PageFile, OddTruthValuesAndSizesAreWrittenPlain)
-{
-    ObjectRecord o;
-    o.kind = 12;
-    ByteWriter body;
-    body.int16("", o.kind);
-    commonFields(body, o);
-    const std::string nan = "\x00\x00\xC0\x7F"s;
-    const std::string tail = encodeInt32(0) + encodeInt32(0) + encodeInt16(7) + encodeInt16(0) + encodeString("X") +
-                             nan + encodeInt16(0) + encodeInt16(1);
-    const Page p = parsed(serialisePage(Page()) + encodeString(body.out + tail));
-    EXPECT_EQ(p.fbx[1].font.FontSize, 0);
-    EXPECT_NE(serialiseObject(p, 0).find("\xFF\xFF\x00\x00\x01\x00X"s), std::string::npos);
-}
-
-TEST(ObjectFile, SamplesAreWrittenBackByteForByte)
-{
-    for (const char *name : {"lamp.hdo", "quitbutton.hdo"}) {
-        Page p;
-        const std::int16_t index = appendObjectFile(p, samples::sample(name));
-        EXPECT_EQ(objectFileText(p, index), samples::sample(name)) << name;
-    }
-}
-
-TEST(ObjectFile, HotSpotOfZeroesIsThirtySixBytes)
-{
-    Page p;
-    ObjectRecord hotspot;
-    hotspot.kind = 2;
-    appendObject(p, hotspot);
-    const std::string text = objectFileText(p, 0);
-    EXPECT_EQ(text, "\x03\x00\x20\x00\x02\x00"s + std::string(30, '\0'));
-}
-
 TEST(ObjectFile, VersionOneAnimationHasNoStrictTimingAndThePageKeepsItsVersion)
 {
     std::string bytes = samples::sample("lamp.hdo");
@@ -152,6 +90,33 @@ TEST(ObjectFile, VersionOneAnimationHasNoStrictTimingAndThePageKeepsItsVersion)
     EXPECT_EQ(p.aniextras[1].strictime, 0);
     EXPECT_EQ(framesOf(p, index).size(), 3U);
     EXPECT_EQ(objectFileText(p, index), samples::sample("lamp.hdo"));
+}
+
+class PageFileMessages : public FreshPage {};
+
+TEST_F(PageFileMessages, AreToldAndNoFileIsMadeOrChanged)
+{
+    const TemporaryDrive drive;
+    drive.add("LARGE.ODS", std::string(fileLimit + 1, 'x'));
+    drive.add("EMPTY.ODS");
+    drive.add("FOLDER.ODS/x");
+    ScriptedAsking user;
+    editing().msgflag = true;
+    for (const auto &[path, text] : {std::pair{"C:\\LARGE.ODS", "File too large - more than 16384 bytes."},
+                                     {"C:\\EMPTY.ODS", "File doesn't exist."},
+                                     {"C:\\NONE.ODS", "File doesn't exist."},
+                                     {"C:\\FOLDER.ODS", "Is a directory"}}) {
+        user.expectMessage(text, "Reading File");
+        openPage(path);
+        EXPECT_EQ(objectCount(page()), 0);
+        EXPECT_EQ(editing().filetag, path);
+    }
+    EXPECT_FALSE(std::filesystem::exists(drive.root() / "NONE.ODS"));
+    user.expectMessage("File too large.", "Saving File");
+    EXPECT_FALSE(writeWholeFile("C:\\EMPTY.ODS", std::string(fileLimit + 1, 'x')));
+    EXPECT_EQ(hostBytes(drive.root() / "EMPTY.ODS"), "");
+    user.expectMessage("No such file or directory", "Saving File");
+    EXPECT_FALSE(writeWholeFile("C:\\NONE\\X.ODS", "x"));
 }
 
 } // namespace

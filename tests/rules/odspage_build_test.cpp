@@ -1,4 +1,3 @@
-#include "document/encoding.h"
 #include "tests/rules/odspage_files.h"
 #include "tools/json_action.h"
 
@@ -48,41 +47,28 @@ void expectRefusal(const std::string &message, const std::string &path, const st
 
 TEST(OdspageBuild, RefusesWithPathAndReason)
 {
-    const Json frame = parseJson(R"({"top":1,"left":2,"duration":3})");
     const Refusal refusals[] = {
         {"unknown page key", "/colour", 1, "$.colour", "unknown"},
-        {"missing page key", "/pgcaption", removal(), "$.pgcaption", "missing"},
         {"missing object key", "/objects/2/tbindex", removal(), "$.objects[2].tbindex", "missing"},
-        {"unknown object key", "/objects/2/top", 1, "$.objects[2].top", "unknown"},
         {"kind without a tail", "/objects/0/kindextra", Json::object(), "$.objects[0].kindextra", "unknown"},
-        {"missing tail", "/objects/1/kindextra", removal(), "$.objects[1].kindextra", "missing"},
         {"16 bits", "/objects/2/ptop", 32768, "$.objects[2].ptop", "-32768 to 32767"},
-        {"16 bits, negative", "/objects/2/ptop", -32769, "$.objects[2].ptop", "outside"},
         {"32 bits", "/bkgcol", 0x80000000U, "$.bkgcol", "outside"},
-        {"64 bits", "/bkgcol", 0xFFFFFFFFFFFFFFFFU, "$.bkgcol", "outside"},
         {"fraction", "/bkght", 1.5, "$.bkght", "whole number"},
-        {"text for number", "/bkght", "1", "$.bkght", "whole number"},
         {"number for text", "/pgcaption", 1, "$.pgcaption", "string"},
         {"number for truth", "/objects/1/kindextra/font/FontBold", -1, "$.objects[1].kindextra.font.FontBold", "true"},
         {"single", "/objects/1/kindextra/font/FontSize", 1e39, "$.objects[1].kindextra.font.FontSize", "single"},
         {"code page", "/objects/2/sptext", "\u4E2D", "$.objects[2].sptext", "code page 1252"},
-        {"list for object", "/objects/2/actlist", Json::array(), "$.objects[2].actlist", "object"},
         {"object for list", "/objects", Json::object(), "$.objects", "array"},
-        {"action parameter", "/objects/2/actlist/url", "x", "$.objects[2].actlist.url", "unknown"},
         {"no action parameter", "/objects/2/actlist/page", removal(), "$.objects[2].actlist.page", "missing"},
         {"nested action", "/objects/4/actlist/entries/1/action/code", "x",
          "$.objects[4].actlist.entries[1].action.code", "whole number"},
         {"raw of another code", "/objects/2/actlist/raw", "0a000000", "$.objects[2].actlist.raw", "code 10"},
         {"raw digits", "/objects/2/actlist/raw", "010g", "$.objects[2].actlist.raw", "hexadecimal"},
-        {"odd raw", "/objects/2/actlist/raw", "010", "$.objects[2].actlist.raw", "even"},
         {"list entries", "/objects/7/kindextra/entries", Json(52, {{"text", ""}, {"action", {{"code", 0}}}}),
          "$.objects[7].kindextra.entries", "51"},
-        {"columns", "/gridcolumns", Json(51, {{"descriptor", ""}, {"width", 0}}), "$.gridcolumns", "50"},
         {"columns without a grid", "/gridcolumns", Json(1, {{"descriptor", ""}, {"width", 0}}), "$.gridcolumns",
          "no Grid"},
-        {"long text", "/pgcaption", std::string(16385, 'x'), "$.pgcaption", "16384"},
         {"file", "/pgcaption", std::string(16000, 'x'), "$", "more than the 16384"},
-        {"frames", "/objects/9/kindextra/frames", Json(3000, frame), "$", "more than the 16384"},
     };
     for (const Refusal &refusal : refusals) {
         SCOPED_TRACE(refusal.what);
@@ -90,30 +76,18 @@ TEST(OdspageBuild, RefusesWithPathAndReason)
     }
 }
 
-TEST(OdspageBuild, RefusesAFourthTicker)
-{
-    Json json = parseJson(sample("menu.json"));
-    const Json ticker = json["objects"][8];
-    for (int i = 0; i < 2; ++i)
-        json["objects"].push_back(ticker);
-    EXPECT_EQ(refusalOf(json), "not refused");
-    json["objects"].push_back(ticker);
-    expectRefusal(refusalOf(json), "$.objects[13].kind", "3 tickers");
-}
-
 TEST(OdspageBuild, RefusesMalformedJson)
 {
-    const auto refusal = [](const std::string &text) {
+    const auto refusal = [](const std::string &text) -> std::string {
         try {
             parseJson(text);
         } catch (const JsonError &error) {
-            return std::string(error.what());
+            return error.what();
         }
-        return "not refused"s;
+        return "not refused";
     };
     expectRefusal(refusal(R"({"a":[1,{"b":1,"c":2,"b":3}]})"), "$.a[1].b", "twice");
     expectRefusal(refusal(std::string(1001, '[') + std::string(1001, ']')), "$", "levels");
-    EXPECT_EQ(refusal(std::string(1000, '[') + std::string(1000, ']')), "not refused");
     for (const char *text : {"", "{", "{}x", "{\"a\":\"\xFF\"}", "{\"a\":1e999}", "{\"a\":\"\\ud800\"}", "[1,]"})
         EXPECT_EQ(refusal(text).substr(0, 3), "$: ") << text;
     expectRefusal(refusalOf(Json::array()), "$", "object");
@@ -127,18 +101,11 @@ TEST(OdspageBuild, ARefusedBuildLeavesTheOutputUntouched)
     const ToolResult refused = odspage({"build", json, out});
     EXPECT_EQ(refused.exitCode, 1);
     EXPECT_NE(refused.err.find("$.PageType: the key is missing"), std::string::npos) << refused.err;
-    EXPECT_EQ(contentOf(out), "before");
+    EXPECT_EQ(hostBytes(out), "before");
     EXPECT_EQ(odspage({"build", scratch.path("none.json"), out}).exitCode, 1);
-    EXPECT_EQ(odspage({"build", samplePath("menu.json").string(), scratch.path("no/such/folder.ods")}).exitCode, 1);
-    EXPECT_EQ(odspage({"build", samplePath("menu.json").string(), out}).exitCode, 0);
-    EXPECT_EQ(contentOf(out), sample("menu.ods"));
-}
-
-TEST(OdspageBuild, AlwaysWritesTheCurrentVersion)
-{
-    Json json = parseJson(sample("empty.json"));
-    json["pgversion"] = 1;
-    EXPECT_EQ(fileFromJson(json), sample("empty.ods"));
+    EXPECT_EQ(odspage({"build", samplePath("menu.json"), scratch.path("no/such/folder.ods")}).exitCode, 1);
+    EXPECT_EQ(odspage({"build", samplePath("menu.json"), out}).exitCode, 0);
+    EXPECT_EQ(hostBytes(out), sample("menu.ods"));
 }
 
 TEST(OdspageAction, RawStandsOnlyWhereTheNamedFormFallsShort)
@@ -157,15 +124,6 @@ TEST(OdspageAction, RawStandsOnlyWhereTheNamedFormFallsShort)
     both("\0\x02\x01\0\x06\0\x02\0\xFB\x01\0\0"s,
          R"({"code":512,"entries":[{"action":{"code":507,"select":"","hitlist":"","queryview":"","raw":"fb01"},)"
          R"("status":""}]})");
-}
-
-TEST(OdspageAction, DeepListsComeBackWhole)
-{
-    std::string text = "\x08\x02";
-    while (text.size() < 8000)
-        text = "\0\x02\x01\0"s + encodeString(encodeString(text) + encodeString(""));
-    const Json json = parseJson(printJson(actionJson(text)));
-    EXPECT_TRUE(actionFromJson(json, "$") == text);
 }
 
 } // namespace

@@ -1,49 +1,25 @@
 #pragma once
 
+#include "tests/support/samples.h"
 #include "tools/json_page.h"
 #include "tools/odspage_commands.h"
 
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <sstream>
-#include <string>
-#include <unistd.h>
-#include <vector>
 
 namespace corvanta {
 
-inline std::filesystem::path samplePath(const std::string &name)
-{
-    return std::filesystem::path(CORVANTA_TEST_DATA) / "pages" / name;
-}
+using samples::sample;
 
-inline std::string contentOf(const std::filesystem::path &path)
-{
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
-inline std::string sample(const std::string &name) { return contentOf(samplePath(name)); }
+inline std::string samplePath(const std::string &name) { return samples::folder() / name; }
 
 // A folder of the test's own, gone at its end.
 class ScratchFolder {
 public:
-    ScratchFolder()
-    {
-        std::string name = (std::filesystem::temp_directory_path() / "odspage-XXXXXX").string();
-        folder = mkdtemp(name.data());
-    }
-    ~ScratchFolder() { std::filesystem::remove_all(folder); }
-    std::string path(const std::string &name) const { return (folder / name).string(); }
-    std::string write(const std::string &name, const std::string &bytes) const
-    {
-        std::ofstream(path(name), std::ios::binary) << bytes;
-        return path(name);
-    }
+    std::string path(const std::string &name) const { return drive.root() / name; }
+    std::string write(const std::string &name, const std::string &bytes) const { return drive.add(name, bytes); }
 
 private:
-    std::filesystem::path folder;
+    TemporaryDrive drive;
 };
 
 struct ToolResult {

@@ -9,45 +9,43 @@ namespace corvanta {
 
 namespace {
 
+// Truncated and version-1 files are not written back as they were.
 struct Sample {
-    const char *name, *json;
-    bool undamaged;
+    std::string name;
+    std::string json = name.ends_with(".ods") ? name.substr(0, name.size() - 3) + "json" : name + ".json";
+    bool undamaged = name != "truncated.ods" && name != "version1.ods";
 };
 
-class OdspageSample : public testing::TestWithParam<Sample> {};
+class OdspageSample : public testing::TestWithParam<const char *> {};
 
-INSTANTIATE_TEST_SUITE_P(
-    Pages, OdspageSample,
-    testing::Values(Sample{"empty.ods", "empty.json", true}, Sample{"hitlist.ods", "hitlist.json", true},
-                    Sample{"largest.ods", "largest.json", true}, Sample{"menu.ods", "menu.json", true},
-                    Sample{"query.ods", "query.json", true}, Sample{"record.ods", "record.json", true},
-                    Sample{"view.ods", "view.json", true}, Sample{"lamp.hdo", "lamp.hdo.json", true},
-                    Sample{"quitbutton.hdo", "quitbutton.hdo.json", true},
-                    Sample{"truncated.ods", "truncated.json", false}, Sample{"version1.ods", "version1.json", false}),
-    [](const auto &parameter) {
-        std::string name = parameter.param.name;
-        return name.replace(name.find('.'), 1, "_");
-    });
+INSTANTIATE_TEST_SUITE_P(Pages, OdspageSample,
+                         testing::Values("empty.ods", "hitlist.ods", "largest.ods", "menu.ods", "query.ods",
+                                         "record.ods", "view.ods", "lamp.hdo", "quitbutton.hdo", "truncated.ods",
+                                         "version1.ods"),
+                         [](const auto &row) {
+                             return std::string(row.param).replace(std::string(row.param).find('.'), 1, "_");
+                         });
 
 TEST_P(OdspageSample, DumpIsTheJsonAndBuildTheBytes)
 {
-    const Sample &s = GetParam();
+    const Sample s{GetParam()};
     const ScratchFolder scratch;
-    const ToolResult dump = odspage({"dump", samplePath(s.name).string()});
+    const ToolResult dump = odspage({"dump", samplePath(s.name)});
     EXPECT_EQ(dump.exitCode, 0);
     EXPECT_EQ(dump.out, sample(s.json) + "\n");
     EXPECT_EQ(dump.err.empty(), s.undamaged) << dump.err;
 
     const std::string built = scratch.path("built");
-    const ToolResult build = odspage({"build", samplePath(s.json).string(), built});
+    const ToolResult build = odspage({"build", samplePath(s.json), built});
     EXPECT_EQ(build.exitCode, 0);
     EXPECT_EQ(build.out + build.err, "");
-    EXPECT_EQ(contentOf(built) == sample(s.name), s.undamaged);
+    EXPECT_EQ(hostBytes(built) == sample(s.name), s.undamaged);
 }
 
 TEST_P(OdspageSample, BuildEqualsLoadAndSave)
 {
-    const std::string name = GetParam().name, built = fileFromJson(parseJson(sample(GetParam().json)));
+    const Sample s{GetParam()};
+    const std::string name = s.name, built = fileFromJson(parseJson(sample(s.json)));
     Page p;
     if (name.ends_with(".hdo")) {
         appendObjectFile(p, sample(name));
@@ -56,25 +54,6 @@ TEST_P(OdspageSample, BuildEqualsLoadAndSave)
         parsePage(p, sample(name));
         EXPECT_TRUE(serialisePage(p) == built);
     }
-}
-
-TEST(OdspageDump, WarnsOfVersionAndDamage)
-{
-    const ToolResult old = odspage({"dump", samplePath("version1.ods").string()});
-    EXPECT_NE(old.err.find("saving would change this file"), std::string::npos);
-    EXPECT_NE(old.err.find("version is 1, saved as 3"), std::string::npos);
-    const ToolResult cut = odspage({"dump", samplePath("truncated.ods").string()});
-    EXPECT_NE(cut.err.find("saving would change this file"), std::string::npos);
-    EXPECT_EQ(cut.err.find("version"), std::string::npos);
-}
-
-TEST(OdspageDump, TellsAnObjectFileByItsContent)
-{
-    const ScratchFolder scratch;
-    const ToolResult object = odspage({"dump", scratch.write("lamp", sample("lamp.hdo"))});
-    EXPECT_EQ(object.out, sample("lamp.hdo.json") + "\n");
-    const ToolResult page = odspage({"dump", scratch.write("menu.bak", sample("menu.ods"))});
-    EXPECT_EQ(page.out, sample("menu.json") + "\n");
 }
 
 TEST(OdspageDump, FailuresAndWrongUsage)
@@ -89,7 +68,7 @@ TEST(OdspageDump, FailuresAndWrongUsage)
     EXPECT_EQ(odspage({"dump"}).exitCode, 2);
     EXPECT_EQ(odspage({"paint", "x"}).exitCode, 2);
     EXPECT_EQ(odspage({"build", "x"}).exitCode, 2);
-    EXPECT_EQ(odspage({"dump", "--codepage", "437", samplePath("menu.ods").string()}).exitCode, 2);
+    EXPECT_EQ(odspage({"dump", "--codepage", "437", samplePath("menu.ods")}).exitCode, 2);
     EXPECT_EQ(odspage({"--help"}).exitCode, 0);
 }
 
@@ -107,8 +86,45 @@ TEST(OdspageDump, ReadsTextsInTheGivenCodePage)
     EXPECT_EQ(odspage({"build", json, back}).exitCode, 1) << "the usual code page lacks the letter";
     EXPECT_FALSE(std::filesystem::exists(back));
     EXPECT_EQ(odspage({"--codepage", "1255", "build", json, back}).exitCode, 0);
-    EXPECT_EQ(contentOf(back), serialisePage(p));
+    EXPECT_EQ(hostBytes(back), serialisePage(p));
     setCodePage(1252);
+}
+
+// What was read is printed, and building it gives a page that reads the same.
+void expectStable(std::string_view bytes)
+{
+    const auto dumpOf = [](std::string_view text) {
+        Page p;
+        parsePage(p, text);
+        return pageJson(p);
+    };
+    Json first = dumpOf(bytes);
+    const std::string built = fileFromJson(first);
+    first["pgversion"] = currentVersion;
+    EXPECT_EQ(dumpOf(built), first);
+}
+
+TEST(OdspageDamage, CutAndFlippedPagesReadAndBuildAgain)
+{
+    std::string bytes = sample("record.ods");
+    for (std::size_t at = 1; at < bytes.size(); ++at) {
+        SCOPED_TRACE(at);
+        expectStable(std::string_view(bytes).substr(0, at));
+        bytes[at] = static_cast<char>(~bytes[at]);
+        expectStable(bytes);
+        bytes[at] = static_cast<char>(~bytes[at]);
+    }
+}
+
+TEST(OdspageSql, PrintsTheGeneratedStatementOrTheMessage)
+{
+    const ToolResult query = odspage({"sql", CORVANTA_SOURCE "/samples/query.ods"});
+    EXPECT_EQ(query.out, "Select * From Customers Where Customers.Name Like '@custname@%' And Customers.City @opcity@ "
+                         "'@city@' And (Customers.CreditLimit = @credit@ Or @credit@ is Null) And \"Customer Since\" = "
+                         "{d'@since@'}\n");
+    const ToolResult menu = odspage({"sql", CORVANTA_SOURCE "/samples/menu.ods"});
+    EXPECT_EQ(menu.exitCode, 1);
+    EXPECT_NE(menu.err.find("No Default Table."), std::string::npos);
 }
 
 } // namespace

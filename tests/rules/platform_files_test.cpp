@@ -73,32 +73,6 @@ TEST_F(Files, areReadWhole)
     EXPECT_FALSE(readFile("C:\\EMPTY", 0).tooLarge);
 }
 
-TEST_F(Files, thatAreNoneAreMissingOrRefused)
-{
-    drive.add("FILE");
-    for (const char *path : {"C:\\NONE", "C:\\NONE\\X", "C:\\FILE\\X", "Q:\\X", ""})
-        EXPECT_TRUE(readFile(path, 10).missing || !readFile(path, 10).error.empty()) << path;
-    EXPECT_TRUE(readFile("C:\\NONE", 10).missing);
-    EXPECT_FALSE(fs::exists(drive.root() / "NONE"));
-    ASSERT_EQ(mkfifo((drive.root() / "PIPE").c_str(), 0600), 0);
-    fs::create_symlink("/dev/zero", drive.root() / "DEVICE");
-    for (const char *path : {"C:\\", "C:\\PIPE", "C:\\DEVICE"}) {
-        EXPECT_FALSE(readFile(path, 10).error.empty()) << path;
-        EXPECT_FALSE(readFile(path, 10).missing) << path;
-        EXPECT_TRUE(writeFileAtomically(path, "x")) << path;
-    }
-    EXPECT_TRUE(fs::is_fifo(drive.root() / "PIPE"));
-    EXPECT_TRUE(fs::is_symlink(drive.root() / "DEVICE"));
-    EXPECT_EQ(entryCount(drive.root()), 3u);
-}
-
-TEST_F(Files, thatReportAnEndlessLengthAreBounded)
-{
-    fs::create_symlink("/proc/self/maps", drive.root() / "MAPS"); // its length is told as 0
-    EXPECT_TRUE(readFile("C:\\MAPS", 20).tooLarge);
-    EXPECT_GT(readFile("C:\\MAPS", 1 << 24).bytes.size(), 20u);
-}
-
 TEST_F(Files, keepTheirModeAndLink)
 {
     const fs::path secret = drive.add("real/Secret.ods", "old");
@@ -118,14 +92,6 @@ TEST_F(Files, keepTheirModeAndLink)
     EXPECT_NE(writeFileAtomically("C:\\Loop", "x"), std::nullopt);
 }
 
-TEST_F(Files, thatAreNewFollowTheUsersMask)
-{
-    const mode_t before = umask(027);
-    EXPECT_EQ(writeFileAtomically("C:\\NEW.ODS", "x"), std::nullopt);
-    umask(before);
-    EXPECT_EQ(modeOf(drive.root() / "NEW.ODS"), 0640u);
-}
-
 TEST_F(Files, thatAreReadOnlyAreReplaced)
 {
     const OrdinaryUser user(drive.root());
@@ -134,29 +100,6 @@ TEST_F(Files, thatAreReadOnlyAreReplaced)
     EXPECT_EQ(writeFileAtomically("C:\\X.ODS", "new"), std::nullopt);
     EXPECT_EQ(hostBytes(file), "new");
     EXPECT_EQ(modeOf(file), 0444u);
-}
-
-TEST_F(Files, inAClosedFolderAreWrittenInPlace)
-{
-    const OrdinaryUser user(drive.root());
-    const fs::path file = drive.add("closed/X.ODS", "old content");
-    fs::permissions(file.parent_path(), fs::perms(0555));
-    EXPECT_EQ(writeFileAtomically("C:\\CLOSED\\X.ODS", "new"), std::nullopt);
-    EXPECT_EQ(hostBytes(file), "new");
-    EXPECT_EQ(writeFileAtomically("C:\\CLOSED\\X.ODS", "longer than before"), std::nullopt);
-    EXPECT_EQ(hostBytes(file), "longer than before");
-    EXPECT_EQ(writeFileAtomically("C:\\CLOSED\\NEW.ODS", "x"), "Permission denied");
-    fs::permissions(file, fs::perms(0444));
-    EXPECT_EQ(writeFileAtomically("C:\\CLOSED\\X.ODS", "x"), "Permission denied");
-    EXPECT_EQ(hostBytes(file), "longer than before");
-    fs::permissions(file.parent_path(), fs::perms(0755));
-}
-
-TEST_F(Files, inAMissingFolderAreAnError)
-{
-    EXPECT_EQ(writeFileAtomically("C:\\NONE\\X.ODS", "x"), "No such file or directory");
-    EXPECT_NE(writeFileAtomically("Q:\\X.ODS", "x"), std::nullopt);
-    EXPECT_EQ(entryCount(drive.root()), 0u);
 }
 
 TEST_F(Files, surviveAFullDisk)

@@ -38,15 +38,6 @@ TEST_F(Paths, findNamesWithoutRegardToCase)
     EXPECT_FALSE(fileExists(""));
 }
 
-TEST_F(Paths, preferTheExactNameThenTheFirstInByteOrder)
-{
-    for (const char *name : {"a.txt", "A.txt", "A.TXT"})
-        drive.add(name);
-    EXPECT_EQ(lookedUp("C:\\a.txt"), "a.txt");
-    EXPECT_EQ(lookedUp("C:\\A.txt"), "A.txt");
-    EXPECT_EQ(lookedUp("C:\\a.TXT"), "A.TXT");
-}
-
 TEST_F(Paths, seeChangesOfAFolder)
 {
     EXPECT_EQ(lookedUp("C:\\A.TXT"), "A.TXT");
@@ -94,19 +85,6 @@ TEST_F(Paths, startFromTheCurrentDirectory)
     EXPECT_EQ(drivePath(drive.root()), "C:\\");
 }
 
-TEST_F(Paths, ofUnknownDrivesAndWithNulDoNotExist)
-{
-    drive.add("x");
-    EXPECT_EQ(driveList(), std::vector<std::string>{"C:"});
-    for (const std::string &path :
-         {std::string("Q:\\x"), std::string("Q:x"), std::string("Q:"), std::string("C:\\x\0", 5)}) {
-        EXPECT_FALSE(fs::exists(hostPath(path))) << path;
-        EXPECT_FALSE(fs::is_directory(hostPath(path).parent_path())) << path;
-        EXPECT_FALSE(changeDirectory(path)) << path;
-    }
-    EXPECT_EQ(currentDirectory(), "C:\\");
-}
-
 TEST_F(Paths, ofNamesBeyondTheCodePageStayUsable)
 {
     drive.add("日/Ünï.ods", "1");
@@ -120,50 +98,6 @@ TEST_F(Paths, ofNamesBeyondTheCodePageStayUsable)
     EXPECT_EQ(hostPath("C:\\?\\?.ods"), first);
     const fs::path unwritten = drive.root() / "new語.ods";
     EXPECT_EQ(hostPath(drivePath(unwritten)), unwritten);
-}
-
-TEST_F(Paths, ofHostNamesWithSeparatorsStayOneName)
-{
-    const fs::path odd = drive.add("a\\b:c.ods");
-    EXPECT_EQ(drivePath(odd), "C:\\a?b?c.ods");
-    EXPECT_EQ(hostPath("C:\\A?B?C.ODS"), odd);
-    const fs::path broken = drive.add("bad\xFFname");
-    EXPECT_EQ(hostPath(drivePath(broken)), broken);
-}
-
-TEST_F(Paths, followTheCodePage)
-{
-    drive.add("жук.ods");
-    setCodePage(1251);
-    EXPECT_EQ(lookedUp("C:\\\xC6\xD3\xCA.ODS"), "жук.ods");
-    setCodePage(1252);
-    EXPECT_EQ(lookedUp("C:\\???.ODS"), "жук.ods");
-}
-
-TEST_F(Paths, listSubdirectories)
-{
-    for (const char *name : {"b/x", "A/x", "C/x", ".hidden/x", "file"})
-        drive.add(name);
-    fs::create_directory_symlink("b", drive.root() / "D");
-    EXPECT_EQ(subdirectories("C:\\"), (std::vector<std::string>{"A", "b", "C", "D"}));
-    EXPECT_TRUE(subdirectories("C:\\NONE").empty());
-    EXPECT_TRUE(subdirectories("C:\\file").empty());
-}
-
-TEST(Media, areReadFromTheMountTable)
-{
-    std::istringstream table("/dev/sda1 / ext4 rw 0 0\n"
-                             "/dev/sdb1 /media/ann/USB\\040STICK vfat rw 0 0\n"
-                             "/dev/sdb1 /media/ann/USB\\040STICK vfat rw 0 0\n"
-                             "tmpfs /media tmpfs rw 0 0\n"
-                             "tmpfs /media/ann tmpfs rw 0 0\n"
-                             "x /media/ann/a/b ext4 rw 0 0\n"
-                             "x /run/media/bob/cd\\134 iso9660 ro 0 0\n"
-                             "x /run/user/0 tmpfs rw 0 0\n"
-                             "x /mnt/data ext4 rw 0 0\n"
-                             "x /mntx/data ext4 rw 0 0\n"
-                             "broken\n\n");
-    EXPECT_EQ(mountedMedia(table), (std::vector<fs::path>{"/media/ann/USB STICK", "/run/media/bob/cd\\", "/mnt/data"}));
 }
 
 } // namespace corvanta

@@ -29,13 +29,6 @@ protected:
 
 } // namespace
 
-TEST_F(Profile, givesDefaultsWithoutAFile)
-{
-    EXPECT_EQ(read("MainTop", " 15"), " 15");
-    EXPECT_EQ(GetPrivateProfileInt(section, "ShowStatus", -1, file), -1);
-    EXPECT_FALSE(std::filesystem::exists(drive.root() / "config"));
-}
-
 TEST_F(Profile, writesTheLeadingBlankAndReadsNone)
 {
     EXPECT_TRUE(write("MainTop", profileNumber(1440)));
@@ -70,51 +63,6 @@ TEST_F(Profile, keepsForeignContent)
     EXPECT_TRUE(text.ends_with("# of it\n"));
     EXPECT_TRUE(write("MainTop", " 9") && write("MainTop", " 7"));
     EXPECT_EQ(stored(), text) << "rewriting adds nothing";
-}
-
-TEST_F(Profile, keepsAFileOfCommentsOnly)
-{
-    drive.add("config/CORVANTA.INI", "; one\n\n; two\n");
-    EXPECT_TRUE(write("A", "1"));
-    const std::string text = stored();
-    EXPECT_NE(text.find("; one\n"), std::string::npos);
-    EXPECT_EQ(text.find("; two\n"), text.rfind("; two\n"));
-    EXPECT_NE(text.find("; two\n"), std::string::npos);
-    EXPECT_EQ(read("A"), "1");
-}
-
-TEST_F(Profile, takesWindowsFiles)
-{
-    drive.add("config/CORVANTA.INI", "\xEF\xBB\xBF[Corvanta Page Editor]\r\nMainTop =  1440  \r\nShowStatus= -1x\r\n"
-                                     "Big=99999999999\r\nWord=yes\r\nEmpty=\r\nBad=\xFF\r\n");
-    EXPECT_EQ(read("MainTop"), "1440");
-    EXPECT_EQ(GetPrivateProfileInt(section, "ShowStatus", 0, file), -1);
-    EXPECT_EQ(GetPrivateProfileInt(section, "Big", 0, file), 2147483647);
-    EXPECT_EQ(GetPrivateProfileInt(section, "Word", 5, file), 0);
-    EXPECT_EQ(GetPrivateProfileInt(section, "Empty", 5, file), 5);
-    EXPECT_EQ(read("Empty"), "");
-    EXPECT_EQ(read("Bad"), "?");
-}
-
-TEST_F(Profile, boundsValues)
-{
-    EXPECT_TRUE(write("Long", std::string(300, 'x')));
-    EXPECT_EQ(read("Long"), std::string(255, 'x'));
-    EXPECT_TRUE(write("Path", "C:\\A\n[Other]\nx=1"));
-    EXPECT_EQ(read("Path"), "C:\\A");
-    EXPECT_EQ(GetPrivateProfileString("Other", "x", "none", file), "none");
-}
-
-TEST_F(Profile, leavesAFileThatItCannotRead)
-{
-    const std::string wide("[\0A\0]\0", 6);
-    drive.add("config/CORVANTA.INI", wide);
-    EXPECT_FALSE(write("A", "1"));
-    EXPECT_EQ(stored(), wide);
-    std::filesystem::create_directories(drive.root() / "config/FOLDER.INI");
-    EXPECT_FALSE(WritePrivateProfileString(section, "A", "1", "FOLDER.INI"));
-    setProfileFolder("/dev/null/nothing");
-    EXPECT_FALSE(write("A", "1"));
 }
 
 } // namespace corvanta

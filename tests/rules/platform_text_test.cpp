@@ -36,19 +36,6 @@ TEST_P(EveryCodePage, takesEveryByteThroughUnicodeAndBack)
     EXPECT_EQ(fromUtf8Lossy(toUtf8(all)), all);
 }
 
-TEST_P(EveryCodePage, foldsCaseWithoutLeavingThePage)
-{
-    ASSERT_TRUE(setCodePage(GetParam()));
-    for (int i = 0; i < 256; ++i) {
-        const std::string byte(1, static_cast<char>(i));
-        EXPECT_TRUE(sameText(byte, upperCase(byte))) << i;
-        EXPECT_EQ(upperCase(upperCase(byte)), upperCase(byte)) << i;
-        if (i < 128) {
-            EXPECT_EQ(upperCase(byte)[0], i >= 'a' && i <= 'z' ? i - 32 : i);
-        }
-    }
-}
-
 INSTANTIATE_TEST_SUITE_P(All, EveryCodePage, testing::ValuesIn(allCodePages));
 
 TEST_F(CodePageTest, knowsItsCharacters)
@@ -74,19 +61,6 @@ TEST_F(CodePageTest, refusesOrReplacesWhatItLacks)
     EXPECT_EQ(fromUtf8Lossy("\xE4x\xE2\x82"), "?x??");
 }
 
-TEST_F(CodePageTest, followsTheLanguage)
-{
-    EXPECT_EQ(codePageOfLocale("de_DE.UTF-8"), 1252);
-    EXPECT_EQ(codePageOfLocale("he_IL"), 1255);
-    EXPECT_EQ(codePageOfLocale("ar"), 1256);
-    EXPECT_EQ(codePageOfLocale("sr_RS.UTF-8"), 1251);
-    EXPECT_EQ(codePageOfLocale("sr_RS@latin"), 1250);
-    EXPECT_EQ(codePageOfLocale("uz_UZ@cyrillic"), 1251);
-    EXPECT_EQ(codePageOfLocale("th_TH.UTF-8"), 874);
-    for (const char *unknown : {"", "C", "C.UTF-8", "POSIX", "_", " ", "ru uk"})
-        EXPECT_EQ(codePageOfLocale(unknown), 1252) << unknown;
-}
-
 TEST_F(CodePageTest, changesCaseByThePage)
 {
     EXPECT_EQ(upperCase("stra\xDF"
@@ -99,23 +73,6 @@ TEST_F(CodePageTest, changesCaseByThePage)
     setCodePage(1251);
     EXPECT_EQ(upperCase("\xE6"), "\xC6");
     EXPECT_TRUE(sameText("\xB8", "\xA8"));
-}
-
-TEST(Text, takesPathsApart)
-{
-    EXPECT_EQ(fileNamePart("C:\\PAGES\\MENU.ODS"), "MENU.ODS");
-    EXPECT_EQ(fileNamePart("D:MENU.ODS"), "MENU.ODS");
-    EXPECT_EQ(fileNamePart("C:\\PAGES\\"), "");
-    EXPECT_EQ(directoryPart("C:\\PAGES\\MENU.ODS"), "C:\\PAGES\\");
-    EXPECT_EQ(directoryPart("D:MENU.ODS"), "");
-    EXPECT_EQ(withoutTrailingBackslash("C:\\"), "C:\\");
-    EXPECT_EQ(withoutTrailingBackslash("C:\\A\\"), "C:\\A");
-    EXPECT_EQ(withoutTrailingBackslash("\\"), "");
-    EXPECT_EQ(withTrailingBackslash("C:\\A"), "C:\\A\\");
-    EXPECT_EQ(withTrailingBackslash("C:\\"), "C:\\");
-    EXPECT_EQ(trimmed("  a\t b  "), "a\t b");
-    EXPECT_EQ(trimmed("   "), "");
-    EXPECT_EQ(doubleAmpersands("&a && b"), "&&a &&&& b");
 }
 
 TEST(Text, readsTheLeadingNumber)

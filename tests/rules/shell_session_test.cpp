@@ -1,29 +1,24 @@
-#include "document/events.h"
-#include "document/objects.h"
-#include "document/page_file.h"
 #include "platform/help.h"
 #include "platform/multimedia.h"
 #include "platform/paths.h"
 #include "platform/profile.h"
+#include "platform/text.h"
 #include "shell/commands.h"
+#include "shell/directory.h"
 #include "shell/session.h"
-#include "tests/support/samples.h"
+#include "tests/support/fresh_page.h"
 #include "tests/support/scripted_asking.h"
-
-#include <gtest/gtest.h>
 
 namespace corvanta {
 
 namespace {
 
 // A session without windows: the steps are written down.
-class ShellSession : public testing::Test {
+class ShellSession : public FreshPage {
 protected:
     ShellSession()
     {
         setProfileFolder(drive.root().string());
-        documentEvents() = {};
-        editing() = {};
         SessionSteps &steps = sessionSteps();
         steps.loadCanvas = [this] { log += "load "; };
         steps.buildAddMenu = [this] { log += "add "; };
@@ -38,10 +33,7 @@ protected:
     }
     ~ShellSession() override
     {
-        clearObjects();
-        editing() = {};
         sessionSteps() = {};
-        documentEvents() = {};
         laterCommands() = {};
         multimediaCommand() = {};
         helpCommand() = {};
@@ -72,46 +64,6 @@ TEST_F(ShellSession, CommandLineTakesPathsOfTheHostAndOfDrives)
     EXPECT_EQ(joined(commandLineFile("caf\xC3\xA9.ods")), "|caf\xE9.ods");
 }
 
-TEST_F(ShellSession, PageFileOfTheCommandLineIsOpenedWithItsDirectory)
-{
-    drive.add("PAGES/MENU.ODS", samples::sample("menu.ods"));
-    std::string seenBefore;
-    documentEvents().fileChanged = [&] {
-        if (!editing().filetag.empty())
-            seenBefore = editing().curdir + "," + currentDirectory();
-    };
-    startSession("C:\\PAGES\\MENU.ODS");
-    EXPECT_EQ(seenBefore, "C:\\PAGES\\,C:\\PAGES");
-    EXPECT_EQ(log, "load add place show odbc ");
-    EXPECT_EQ(editing().curdir, "C:\\PAGES\\");
-    EXPECT_EQ(filePanelCaption(), "MENU.ODS");
-    EXPECT_EQ(serialisePage(page()), samples::sample("menu.ods"));
-    EXPECT_FALSE(editing().pagedirty);
-}
-
-TEST_F(ShellSession, BareFileNameLeavesThePageDirectory)
-{
-    drive.add("HERE/menu.ods", samples::sample("menu.ods"));
-    drive.add("SET/other.txt");
-    WritePrivateProfileString("Corvanta Page Editor", "DefaultPath", "C:\\SET\\", "CORVANTA.INI");
-    changeDirectory("C:\\HERE");
-    startSession("menu.ods");
-    EXPECT_EQ(serialisePage(page()), samples::sample("menu.ods"));
-    EXPECT_EQ(editing().curdir, "C:\\SET\\");
-    EXPECT_EQ(editing().filetag, "C:\\HERE\\menu.ods");
-}
-
-TEST_F(ShellSession, MissingPageFileLeavesAnEmptyPageUnderItsName)
-{
-    ScriptedAsking user;
-    user.expectMessage("File doesn't exist.", "Reading File");
-    sessionSteps().loadCanvas = [] { editing().msgflag = true; };
-    startSession("C:\\GONE.ODS");
-    EXPECT_EQ(objectCount(page()), 0);
-    EXPECT_EQ(filePanelCaption(), "GONE.ODS");
-    EXPECT_FALSE(fileExists("C:\\GONE.ODS"));
-}
-
 TEST_F(ShellSession, CanvasIsLoadedOnceAndEverythingEndsInOrder)
 {
     startSession("");
@@ -140,21 +92,31 @@ TEST_F(ShellSession, CanvasIsLoadedOnceAndEverythingEndsInOrder)
     EXPECT_TRUE(pageMenuMarks().mockToolbar);
 }
 
+TEST_F(ShellSession, ChosenDirectoryIsNormalisedAndReloadsMediaOnceChanged)
+{
+    drive.add("pages/x.txt");
+    page().sndfn = "gong.wav";
+    multimediaCommand() = [this](const std::string &command) {
+        log += command + ";";
+        return 0;
+    };
+    choosePageDirectory(" c:\\pages ");
+    EXPECT_EQ(editing().curdir, "C:\\PAGES\\");
+    EXPECT_EQ(upperCase(currentDirectory()), "C:\\PAGES");
+    choosePageDirectory("C:\\Pages\\");
+    EXPECT_EQ(log, "Play C:\\PAGES\\gong.wav;");
+    ScriptedAsking user;
+    user.expectMessage("Drive X: is invalid!", "Error");
+    EXPECT_EQ(upperCase(chosenDrive("X:").path), "C:\\PAGES");
+    EXPECT_EQ(chosenDrive("C:").path, "C:\\");
+}
+
 TEST(ShellPlaces, WindowsStayOnTheScreen)
 {
-    WindowSettings stored;
-    stored.MainTop = -300;
-    stored.MainLeft = 14000;
-    stored.PageTop = 9000;
-    stored.PageLeft = 100;
-    stored.PageHeight = 6000;
-    stored.PageWidth = 20000;
-    ScreenSizes sizes;
-    sizes.mainHeight = 1500;
-    sizes.mainWidth = 9000;
-    sizes.frameHeight = 400;
-    sizes.screenHeight = 12000;
-    sizes.screenWidth = 15000;
+    const WindowSettings stored{
+        .MainTop = -300, .MainLeft = 14000, .PageTop = 9000, .PageLeft = 100, .PageHeight = 6000, .PageWidth = 20000};
+    const ScreenSizes sizes{
+        .mainHeight = 1500, .mainWidth = 9000, .frameHeight = 400, .screenHeight = 12000, .screenWidth = 15000};
     const WindowSettings kept = keptOnScreen(stored, sizes);
     EXPECT_EQ(kept.MainTop, 0);
     EXPECT_EQ(kept.MainLeft, 6000);

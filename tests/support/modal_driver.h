@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QTimer>
@@ -13,6 +14,17 @@
 #include <string>
 
 namespace corvanta {
+
+// A control of the window, by its name; a missing one is an error of the test.
+template <class Control = QWidget> Control &find(const QWidget &window, const char *name)
+{
+    auto *control = window.findChild<Control *>(name);
+    if (!control)
+        throw std::runtime_error(std::string("no control ") + name);
+    return *control;
+}
+
+inline void press(const QWidget &window, const char *button) { find<QAbstractButton>(window, button).click(); }
 
 // Drives modal windows while the code under test waits in them. Steps are taken in order, each once: as soon as a
 // modal window of the step's name is in front, the step gets it. A step may open a further window, which the
@@ -33,15 +45,6 @@ public:
 
     // An empty name stands for any modal window.
     void expect(const std::string &name, std::function<void(QWidget &)> drive) { steps.push_back({name, drive}); }
-
-    // A control of the window, by its name; a missing one is an error of the test.
-    template <class Control> static Control &find(const QWidget &window, const char *name)
-    {
-        auto *control = window.findChild<Control *>(name);
-        if (!control)
-            throw std::runtime_error(std::string("no control ") + name);
-        return *control;
-    }
 
 private:
     struct Step {

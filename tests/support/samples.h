@@ -1,9 +1,7 @@
 #pragma once
 
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <string>
+#include "tests/support/temporary_drive.h"
+
 #include <vector>
 
 // The sample files of tests/data.
@@ -11,13 +9,7 @@ namespace corvanta::samples {
 
 inline std::filesystem::path folder() { return std::filesystem::path(CORVANTA_TEST_DATA) / "pages"; }
 
-inline std::string bytesOf(const std::filesystem::path &file)
-{
-    std::ifstream in(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
-}
-
-inline std::string sample(const std::string &name) { return bytesOf(folder() / name); }
+inline std::string sample(const std::string &name) { return hostBytes(folder() / name); }
 
 // Page files that the editor writes back byte for byte: current version, undamaged.
 inline std::vector<std::string> currentPages()

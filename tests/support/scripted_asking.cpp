@@ -28,10 +28,7 @@ std::string describe(FileDialog::Kind kind)
 
 ScriptedAsking::ScriptedAsking() : before(std::exchange(asking(), {}))
 {
-    asking().messageBox = [this](const MessageBox &box) {
-        messages.push_back(box);
-        return next(describe(box)).message;
-    };
+    asking().messageBox = [this](const MessageBox &box) { return next(describe(box)).message; };
     asking().fileDialog = [this](const FileDialog &dialog) {
         fileDialogs.push_back(dialog);
         const auto answer = next(describe(dialog.kind)).text;
@@ -39,16 +36,12 @@ ScriptedAsking::ScriptedAsking() : before(std::exchange(asking(), {}))
             changeDirectory(directoryPart(*answer));
         return answer;
     };
-    asking().fontDialog = [this](const FontChoice &font) {
-        fonts.push_back(font);
-        return next("font dialog").font;
-    };
+    asking().fontDialog = [this](const FontChoice &) { return next("font dialog").font; };
     asking().colourDialog = [this](std::int32_t colour) {
         colours.push_back(colour);
         return next("colour dialog").colour;
     };
     asking().askText = [this](const std::string &parameter) {
-        texts.push_back(parameter);
         return next("text \"" + parameter + "\"").text.value_or("");
     };
 }

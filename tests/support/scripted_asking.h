@@ -30,11 +30,8 @@ public:
     // The whole parameter: prompt, caption and initial text, tab-separated.
     void expectText(const std::string &parameter, const std::string &answer);
 
-    std::vector<MessageBox> messages;
     std::vector<FileDialog> fileDialogs;
-    std::vector<FontChoice> fonts;
     std::vector<std::int32_t> colours;
-    std::vector<std::string> texts;
 
 private:
     struct Question {

@@ -2,53 +2,34 @@
 
 #include "canvas/running.h"
 #include "canvas/ui/editform.h"
-#include "document/objects.h"
+#include "tests/support/fresh_page.h"
+#include "tests/support/modal_driver.h"
 
 #include <QTest>
-
-#include <gtest/gtest.h>
 
 namespace corvanta {
 
 // The canvas window over a new page of 400 by 300 pixels.
-class CanvasForm : public testing::Test {
+class CanvasForm : public FreshPage {
 protected:
     CanvasForm()
     {
-        page() = Page();
-        editing() = {};
         editing().msgflag = true;
-        page().bkgwd = 400;
-        page().bkght = 300;
         form.show();
         editing().pagedirty = false;
     }
-    ~CanvasForm() override
-    {
-        clearObjects();
-        page() = Page();
-        editing() = {};
-    }
+    ~CanvasForm() override { clearObjects(); }
 
-    std::int16_t add(Kind kind, QRect place)
+    static std::int16_t add(Kind kind, QRect place)
     {
-        const std::int16_t index = addObject(kind);
-        setObjectGeometry(index, static_cast<std::int16_t>(place.top()), static_cast<std::int16_t>(place.left()),
-                          static_cast<std::int16_t>(place.height()), static_cast<std::int16_t>(place.width()));
-        editing().pagedirty = false;
-        return index;
+        return addAt(kind, place.x(), place.y(), place.width(), place.height());
     }
-    static QRect recordRect(std::int16_t index)
+    static QRect recordRect(int index)
     {
-        const ObjectRecord &o = page().objects[static_cast<std::size_t>(index)];
+        const ObjectRecord &o = object(index);
         return {o.pleft, o.ptop, o.pwidth, o.pheight};
     }
-    template <class Control = QWidget> Control &child(const char *name)
-    {
-        auto *found = form.findChild<Control *>(QString::fromLatin1(name));
-        EXPECT_NE(found, nullptr) << name;
-        return *found;
-    }
+    template <class Control = QWidget> Control &child(const char *name) { return find<Control>(form, name); }
     bool has(const char *name) const { return form.findChild<QWidget *>(QString::fromLatin1(name)) != nullptr; }
     // A press, a move and a release of the left button, in pixels of the widget.
     static void drag(QWidget &widget, QPoint from, QPoint by)

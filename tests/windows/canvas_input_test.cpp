@@ -1,13 +1,7 @@
 #include "canvas/gestures.h"
 #include "canvas/ui/drop.h"
 #include "tests/windows/canvas_form.h"
-
-#include <QApplication>
-#include <QDropEvent>
-#include <QLabel>
-#include <QMimeData>
-
-#include <memory>
+#include "tests/windows/drops.h"
 
 using namespace corvanta;
 
@@ -24,13 +18,7 @@ protected:
 
     bool dropOnPage(const char *tag, const char *payload, QPoint at)
     {
-        const std::unique_ptr<QMimeData> data(dragData(tag, payload));
-        QDragEnterEvent enter(at, Qt::CopyAction, data.get(), Qt::LeftButton, {});
-        QApplication::sendEvent(&form.pageArea(), &enter);
-        QDropEvent event(at, Qt::CopyAction, data.get(), Qt::LeftButton, {});
-        event.ignore();
-        QApplication::sendEvent(&form.pageArea(), &event);
-        return event.isAccepted();
+        return dropOn(form.pageArea(), tag, payload, at);
     }
 
     int opened = 0, deleted = 0;
@@ -117,18 +105,6 @@ TEST_F(CanvasInputTest, CtrlClicksGatherAGroupThatMovesTogether)
     EXPECT_EQ(editing().curobj, noObject);
 }
 
-TEST_F(CanvasInputTest, AClickBringsAVisualToTheFrontBelowTheHandles)
-{
-    add(Kind::Button, QRect(20, 20, 100, 50));
-    add(Kind::Label, QRect(40, 30, 100, 50));
-    EXPECT_EQ(form.pageArea().childAt(60, 50)->objectName(), "lbl1");
-    QTest::mouseClick(&child("but1"), Qt::LeftButton, {}, QPoint(3, 3));
-    EXPECT_EQ(form.pageArea().childAt(60, 50)->objectName(), "but1");
-    EXPECT_EQ(form.pageArea().childAt(20, 20)->objectName(), "trbox0");
-    add(Kind::Url, QRect(10, 10, 40, 40));
-    EXPECT_EQ(form.pageArea().childAt(20, 20)->objectName(), "trbox0") << "a new visual stays below them";
-}
-
 TEST_F(CanvasInputTest, DoubleClicksOpenProperties)
 {
     add(Kind::Label, QRect(20, 20, 50, 20));
@@ -191,22 +167,6 @@ TEST_F(CanvasInputTest, AToolIsDroppedAtThePointAndKeptOnThePage)
     EXPECT_EQ(droppedRect({0, 0, 500, 20}, {50, 60}, {400, 300}), (Rect{0, 60, 500, 20}));
 }
 
-TEST_F(CanvasInputTest, TheStatusLineShowsTheTextOfThePointedOrCurrentObject)
-{
-    auto &line = child<QLabel>("statusline");
-    page().objects[static_cast<std::size_t>(add(Kind::Label, QRect(20, 20, 50, 20)))].sptext = "First";
-    page().objects[static_cast<std::size_t>(add(Kind::Image, QRect(100, 20, 50, 50)))].sptext = "Second";
-    QTest::mouseMove(&child("lbl1"), QPoint(5, 5));
-    EXPECT_EQ(line.text(), "First");
-    QTest::mouseMove(&form.pageArea(), QPoint(120, 40));
-    EXPECT_EQ(line.text(), "Second");
-    QTest::mouseMove(&form.pageArea(), QPoint(300, 200));
-    EXPECT_EQ(line.text(), "");
-    QTest::mouseClick(&child("lbl1"), Qt::LeftButton);
-    QTest::mouseMove(&form.pageArea(), QPoint(300, 201));
-    EXPECT_EQ(line.text(), "First");
-}
-
 TEST_F(CanvasInputTest, TickersRunOnObjtimerAndPauseWhileTheyArePressed)
 {
     auto &objtimer = *form.findChild<QTimer *>("objtimer");
@@ -221,16 +181,4 @@ TEST_F(CanvasInputTest, TickersRunOnObjtimerAndPauseWhileTheyArePressed)
     EXPECT_TRUE(objtimer.isActive());
     deleteObject(index);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !objtimer.isActive(); }, 5000));
-}
-
-TEST_F(CanvasInputTest, VisualsComeAndGoWithTheirObjects)
-{
-    add(Kind::Button, QRect(20, 20, 80, 30));
-    EXPECT_EQ(child("but1").accessibleName(), "Button Button1");
-    deleteObject(0);
-    EXPECT_FALSE(has("but1") && child("but1").isVisible());
-    add(Kind::Button, QRect(20, 20, 80, 30));
-    EXPECT_TRUE(child("but2").isVisible()) << "numbers are not used again";
-    Editform second; // opened over a page that has objects
-    EXPECT_NE(second.findChild<QWidget *>("but2"), nullptr);
 }

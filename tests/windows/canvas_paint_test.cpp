@@ -61,7 +61,6 @@ QRect extent(const QImage &image, const auto &passes)
 bool painted(QRgb pixel) { return pixel != backdrop; }
 // Smoothed text has pixels of many shades.
 bool reddish(QRgb pixel) { return qRed(pixel) - std::max(qGreen(pixel), qBlue(pixel)) > 50; }
-bool bluish(QRgb pixel) { return qBlue(pixel) - std::max(qGreen(pixel), qRed(pixel)) > 50; }
 bool greenish(QRgb pixel) { return qGreen(pixel) - std::max(qRed(pixel), qBlue(pixel)) > 50; }
 
 } // namespace
@@ -75,14 +74,6 @@ TEST(CanvasPaint, EveryKindFillsItsRectangleAndNothingBesideIt)
             object.element().BackStyle = 1;
         EXPECT_EQ(extent(object.image(place), painted), place) << "kind " << code;
     }
-}
-
-TEST(CanvasPaint, AnUnknownKindAndAnEmptyRectanglePaintNothing)
-{
-    Painted button(Kind::Button);
-    EXPECT_TRUE(extent(button.image(QRect(5, 5, 0, 10)), painted).isNull());
-    button.record().kind = 14;
-    EXPECT_TRUE(extent(button.image(QRect(5, 5, 50, 20)), painted).isNull());
 }
 
 TEST(CanvasPaint, TheBevelIsAsWideAsStoredButAtMostTen)
@@ -120,22 +111,6 @@ TEST(CanvasPaint, AnAmpersandUnderlinesAndTwoAreOne)
     EXPECT_GT(extent(ink("One\r\nTwo"), reddish).height(), extent(ink("One Two"), reddish).height() + 8);
 }
 
-TEST(CanvasPaint, AButtonsPictureStandsAboveItsCaptionOrBesideIt)
-{
-    Painted button(Kind::Button);
-    button.element().picture = filledPicture(16, 16, red);
-    button.element().Caption = "Go";
-    button.element().font.ForeColor = 0xFF0000;
-    const QImage high = button.image(QRect(0, 0, 100, 60));
-    EXPECT_EQ(extent(high, reddish).size(), QSize(16, 16));
-    EXPECT_GT(extent(high, bluish).top(), extent(high, reddish).bottom());
-    EXPECT_NEAR(extent(high, reddish).center().x(), 50, 1);
-    const QImage low = button.image(QRect(0, 0, 100, 25));
-    EXPECT_GT(extent(low, bluish).left(), extent(low, reddish).right());
-    button.element().Caption.clear();
-    EXPECT_EQ(extent(button.image(QRect(0, 0, 100, 60)), reddish), QRect(42, 22, 16, 16));
-}
-
 TEST(CanvasPaint, LabelsAreTransparentBorderedAndAligned)
 {
     const QRect place(10, 10, 200, 30);
@@ -157,52 +132,6 @@ TEST(CanvasPaint, LabelsAreTransparentBorderedAndAligned)
     EXPECT_NEAR(extent(label.image(place), reddish).center().x(), 109, 3);
 }
 
-TEST(CanvasPaint, FontStylesAndSizesAreThoseStored)
-{
-    Painted label(Kind::Label);
-    label.element().BackStyle = 0;
-    label.element().Caption = "Hand";
-    const auto ink = [&label] { return extent(label.image(QRect(0, 0, 250, 100)), painted); };
-    const QRect plain = ink();
-    label.element().font.FontUnderline = true;
-    EXPECT_GT(ink().bottom(), plain.bottom());
-    label.element().font = {};
-    label.element().font.FontSize = 24;
-    EXPECT_GT(ink().height(), 2 * plain.height());
-    label.element().font = {};
-    const QImage before = label.image(QRect(0, 0, 250, 100));
-    label.element().font.FontStrikethru = true;
-    EXPECT_NE(label.image(QRect(0, 0, 250, 100)), before);
-}
-
-TEST(CanvasPaint, FieldsShowTheirTextOverTheirBackColour)
-{
-    const QRect place(0, 0, 120, 60);
-    Painted field(Kind::TextBox);
-    field.element().BackColor = 0x00FFFF;
-    field.element().font.ForeColor = 0x0000FF;
-    field.element().Caption = "one two three four five six seven";
-    const QImage single = field.image(place);
-    EXPECT_EQ(single.pixel(60, 5), 0xFFFFFF00);
-    field.record().objflags = multiFlag;
-    EXPECT_GT(extent(field.image(place), reddish).height(), 2 * extent(single, reddish).height());
-    EXPECT_TRUE(extent(field.image(place, {.emptied = true}), reddish).isNull());
-}
-
-TEST(CanvasPaint, ListEntriesStandUnderEachOtherUntilTheListIsEmptied)
-{
-    Painted list(Kind::ListBox);
-    list.element().font.ForeColor = 0x0000FF;
-    auto &entries = list.p.lbxextras[1];
-    entries = {{"First", ""}};
-    const QRect one = extent(list.image(QRect(0, 0, 120, 80)), reddish);
-    entries = {{"First", ""}, {"Second", ""}, {"Third", ""}};
-    EXPECT_GT(extent(list.image(QRect(0, 0, 120, 80)), reddish).height(), 3 * one.height());
-    EXPECT_TRUE(extent(list.image(QRect(0, 0, 120, 80), {.emptied = true}), reddish).isNull());
-    entries.assign(51, {"Entry", ""});
-    EXPECT_LT(extent(list.image(QRect(0, 0, 120, 80)), reddish).bottom(), 78);
-}
-
 TEST(CanvasPaint, GridColumnsHaveTheirWidthInPixels)
 {
     Painted grid(Kind::Grid);
@@ -215,27 +144,6 @@ TEST(CanvasPaint, GridColumnsHaveTheirWidthInPixels)
         EXPECT_EQ(image.pixel(line - 1, row), white);
     }
     EXPECT_EQ(image.pixel(200, 8), white) << "no header beyond the last column";
-}
-
-TEST(CanvasPaint, ImagesAreScaledIntoTheirRectangle)
-{
-    Painted object(Kind::Image);
-    const QRect place(10, 20, 80, 50);
-    EXPECT_EQ(object.image(place).pixel(89, 69), black) << "without a picture: a rectangle";
-    object.p.imgpictures[1].picture = filledPicture(8, 8, red);
-    EXPECT_EQ(extent(object.image(place), reddish), place);
-}
-
-TEST(CanvasPaint, ATickersTextMovesWithinItsStrip)
-{
-    Painted ticker(Kind::Ticker);
-    ticker.element().font.ForeColor = 0x0000FF;
-    ticker.element().Caption = "News";
-    const QRect place(10, 10, 150, 26);
-    const QRect resting = extent(ticker.image(place), reddish);
-    EXPECT_EQ(extent(ticker.image(place, {.textOffset = 40}), reddish), resting.translated(40, 0));
-    EXPECT_TRUE(extent(ticker.image(place, {.textOffset = 150}), reddish).isNull());
-    EXPECT_LE(resting.width(), tickerTextWidth(ticker.element()));
 }
 
 TEST(CanvasPaint, AnAnimationShowsItsFirstFrameOrTheOneThatPlays)
@@ -253,6 +161,7 @@ TEST(CanvasPaint, AnAnimationShowsItsFirstFrameOrTheOneThatPlays)
 
 TEST(CanvasPaint, PageDrawnObjectsLieBelowControlsAndHotSpotsShowWhatIsBelow)
 {
+    editing() = {};
     Page p;
     p.bkgwd = 200;
     p.bkght = 100;

@@ -1,14 +1,7 @@
 #include "canvas/ui/drop_field.h"
 #include "database/connection.h"
-#include "document/events.h"
-#include "platform/qt/drag.h"
 #include "tests/windows/canvas_form.h"
-
-#include <QApplication>
-#include <QDropEvent>
-#include <QMimeData>
-
-#include <memory>
+#include "tests/windows/drops.h"
 
 using namespace corvanta;
 
@@ -23,20 +16,12 @@ protected:
         };
         documentEvents().edited = [this] { ++edits; };
     }
-    ~DroppedField() override
-    {
-        documentEvents().edited = nullptr;
-        connection() = {};
-    }
+    ~DroppedField() override { connection() = {}; }
 
     void drop(std::size_t button, const DroppedColumn &column, QPoint at)
     {
         connection().pressedButton = button;
-        const std::unique_ptr<QMimeData> data(dragData("fld", QByteArray::fromStdString(dragOfColumn(column))));
-        QDragEnterEvent enter(at, Qt::CopyAction, data.get(), Qt::LeftButton, {});
-        QApplication::sendEvent(&form.pageArea(), &enter);
-        QDropEvent event(at, Qt::CopyAction, data.get(), Qt::LeftButton, {});
-        QApplication::sendEvent(&form.pageArea(), &event);
+        dropOn(form.pageArea(), "fld", QByteArray::fromStdString(dragOfColumn(column)), at);
     }
 
     int edits = 0;
@@ -66,21 +51,4 @@ TEST_F(DroppedField, BecomesABoundObjectOfTheChosenKind)
     EXPECT_EQ(recordRect(1).bottomRight(), QPoint(399, 299));
     EXPECT_TRUE(page().objects[1].datacol.empty());
     EXPECT_EQ(edits, 2);
-}
-
-TEST_F(DroppedField, OnlySomeKindsAndPagesTakeIt)
-{
-    std::string taken;
-    for (std::size_t button = 0; button < kindButtons.size(); ++button) {
-        const std::int16_t before = objectCount(page());
-        drop(button, name, {10, 10});
-        taken += objectCount(page()) > before ? '1' : '0';
-    }
-    EXPECT_EQ(taken, "111001111");
-    const int before = edits;
-    page().PageType = static_cast<std::int16_t>(PageKind::Menu);
-    drop(textBoxButton, name, {10, 10});
-    dropField({10, 10}, "no column");
-    EXPECT_EQ(edits, before);
-    EXPECT_EQ(objectCount(page()), 7);
 }

@@ -1,43 +1,26 @@
 #pragma once
 
-#include "document/events.h"
-#include "document/objects.h"
-#include "document/page_file.h"
 #include "objects/ui/open_properties.h"
+#include "tests/support/fresh_page.h"
 #include "tests/support/modal_driver.h"
 #include "tests/support/samples.h"
 #include "tests/support/scripted_asking.h"
 
-#include <QCheckBox>
-#include <QComboBox>
 #include <QDialog>
 #include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QPushButton>
 
 #include <filesystem>
 
 namespace corvanta {
 
 // The process-wide page in a directory that has the sample pages' media, and hands on its property dialogs.
-class PropertyDialogs : public testing::Test {
+class PropertyDialogs : public FreshPage {
 protected:
-    PropertyDialogs()
+    PropertyDialogs() : FreshPage(600, 420)
     {
-        documentEvents() = {};
-        newPage();
-        editing() = {};
-        editing().curdir = "C:\\";
-        page().bkgwd = 600;
-        page().bkght = 420;
         for (const auto &file : std::filesystem::directory_iterator(CORVANTA_SOURCE "/samples"))
             if (file.path().extension() == ".bmp" || file.path().extension() == ".wav")
-                drive.add(file.path().filename(), samples::bytesOf(file.path()));
-    }
-    ~PropertyDialogs() override
-    {
-        newPage();
-        editing() = {};
+                drive.add(file.path().filename(), hostBytes(file.path()));
     }
 
     static void openSample(const std::string &name)
@@ -51,7 +34,7 @@ protected:
     static void withDialog(std::int16_t index, const std::function<void(QDialog &)> &use)
     {
         editing().curobj = index;
-        const std::int16_t kind = page().objects.at(static_cast<std::size_t>(index)).kind;
+        const std::int16_t kind = object(index).kind;
         const bool modal = kind < 9 && kind != 5;
         ModalDriver driver;
         bool used = false;
@@ -63,25 +46,22 @@ protected:
             driver.expect("", run);
         OpenObjectProperties(kind);
         if (!modal)
-            run(openDialog());
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            run(*openDialog());
+        settle();
         EXPECT_TRUE(used);
     }
 
-    // The visible dialog that is not modal.
-    static QWidget &openDialog()
+    // The visible dialog that is not modal; none is null.
+    static QDialog *openDialog()
     {
         for (QWidget *window : QApplication::topLevelWidgets())
-            if (qobject_cast<QDialog *>(window) && window->isVisible())
-                return *window;
-        throw std::runtime_error("no dialog");
+            if (auto *dialog = qobject_cast<QDialog *>(window); dialog && dialog->isVisible())
+                return dialog;
+        return nullptr;
     }
+    // Closed dialogs are gone.
+    static void settle() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
 
-    template <class Control> static Control &find(const QWidget &dialog, const char *name)
-    {
-        return ModalDriver::find<Control>(dialog, name);
-    }
-    static void click(const QWidget &dialog, const char *button) { find<QPushButton>(dialog, button).click(); }
     static void type(const QWidget &dialog, const char *field, const char *text)
     {
         find<QLineEdit>(dialog, field).setText(text);

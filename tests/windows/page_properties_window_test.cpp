@@ -1,94 +1,49 @@
 #include "database/connection.h"
-#include "document/page_file.h"
 #include "page/ui/pgprops.h"
-#include "platform/qt/drag.h"
+#include "platform/qt/qt_pictures.h"
 #include "platform/qt/window_switch.h"
-#include "tests/support/samples.h"
-#include "tests/support/scripted_asking.h"
+#include "tests/windows/drops.h"
+#include "tests/windows/objects_page.h"
 
-#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDialog>
-#include <QDropEvent>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
-
-#include <gtest/gtest.h>
-
-#include <memory>
-#include <stdexcept>
 
 using namespace corvanta;
 
 namespace {
 
-class PagePropertiesWindow : public testing::Test {
+class PagePropertiesWindow : public PropertyDialogs {
 protected:
     PagePropertiesWindow()
     {
-        newPage();
-        editing() = {};
-        editing().curdir = "C:\\";
-        page().bkgwd = 400;
-        page().bkght = 300;
-        pictureLoader() = [](const std::string &) {
-            auto picture = std::make_shared<Picture>();
-            picture->width = 600;
-            picture->height = 420;
-            return picture;
-        };
+        installPictureLoader();
         switchableWindows() = [this] { return std::vector<QWidget *>{&mainWindow}; };
     }
     ~PagePropertiesWindow() override
     {
-        if (QDialog *open = dialog())
+        if (QDialog *open = openDialog())
             open->close();
         settle();
         switchableWindows() = nullptr;
-        pictureLoader() = nullptr;
         connection() = {};
-        newPage();
-        editing() = {};
+        pictureLoader() = nullptr;
     }
 
     void open()
     {
         openPageProperties([this] { ++closed; });
     }
-    static QDialog *dialog()
-    {
-        for (QWidget *window : QApplication::topLevelWidgets())
-            if (window->objectName() == "pgprops")
-                return static_cast<QDialog *>(window);
-        return nullptr;
-    }
     template <class Control = QLineEdit> static Control &field(const char *name)
     {
-        auto *found = dialog()->findChild<Control *>(name);
-        if (!found)
-            throw std::runtime_error(std::string("no control ") + name);
-        return *found;
+        return find<Control>(*openDialog(), name);
     }
     static void press(const char *name)
     {
         field<QPushButton>(name).click();
         settle();
-    }
-    static void settle() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
-
-    static bool drop(QWidget &target, const char *tag, const char *payload)
-    {
-        const std::unique_ptr<QMimeData> data(dragData(tag, payload));
-        QDragEnterEvent enter(QPoint(3, 3), Qt::CopyAction, data.get(), Qt::LeftButton, {});
-        QApplication::sendEvent(&target, &enter);
-        QDropEvent event(QPointF(3, 3), Qt::CopyAction, data.get(), Qt::LeftButton, {});
-        QApplication::sendEvent(&target, &event);
-        return enter.isAccepted() && event.isAccepted();
     }
     // What the dialog shows of the database: the group, and the statement with its label and button.
     static std::string shown()
@@ -103,15 +58,14 @@ protected:
         ScriptedAsking user;
         user.expectMessage(message, "Properties Error");
         press("ok");
-        ASSERT_NE(dialog(), nullptr) << message;
+        ASSERT_NE(openDialog(), nullptr) << message;
         if (focus) {
-            EXPECT_EQ(dialog()->focusWidget(), &field(focus)) << message;
+            EXPECT_EQ(openDialog()->focusWidget(), &field(focus)) << message;
             EXPECT_EQ(field(focus).selectedText(), field(focus).text()) << message;
         }
         EXPECT_FALSE(editing().pagedirty);
     }
 
-    TemporaryDrive drive;
     QWidget mainWindow;
     int closed = 0;
 };
@@ -120,11 +74,8 @@ protected:
 
 TEST_F(PagePropertiesWindow, OkUntouchedWritesEqualBytes)
 {
-    drive.add("welcome.wav");
-    drive.add("paper.bmp");
     for (const char *name : {"hitlist.ods", "menu.ods", "query.ods", "record.ods", "view.ods"}) {
-        page() = Page();
-        parsePage(page(), samples::sample(name));
+        openSample(name);
         if (page().dbconnect == "\t\t")
             page().dbconnect += '\t'; // OK completes it
         page().pgcaption = "two\r\nlines, a tab\t and \x81";
@@ -132,7 +83,7 @@ TEST_F(PagePropertiesWindow, OkUntouchedWritesEqualBytes)
         const std::string before = serialisePage(page());
         open();
         press("ok");
-        EXPECT_EQ(dialog(), nullptr) << name;
+        EXPECT_EQ(openDialog(), nullptr) << name;
         EXPECT_EQ(serialisePage(page()), before) << name;
         EXPECT_TRUE(editing().pagedirty);
     }
@@ -144,15 +95,18 @@ TEST_F(PagePropertiesWindow, CancelAfterChangingEveryFieldWritesNothing)
     page().PageType = 2;
     const std::string before = serialisePage(page());
     open();
+    field("pgcaption").setText("being typed");
+    open();
+    EXPECT_EQ(field("pgcaption").text(), "being typed") << "a second opening keeps the first";
     EXPECT_FALSE(mainWindow.isEnabled());
-    for (auto *edit : dialog()->findChildren<QLineEdit *>())
+    for (auto *edit : openDialog()->findChildren<QLineEdit *>())
         edit->setText("changed");
-    for (auto *box : dialog()->findChildren<QCheckBox *>())
+    for (auto *box : openDialog()->findChildren<QCheckBox *>())
         box->toggle();
     field<QPlainTextEdit>("SelectStmt").setPlainText("changed");
     field<QComboBox>("PageType").setCurrentIndex(4);
     press("cancbut");
-    EXPECT_EQ(dialog(), nullptr);
+    EXPECT_EQ(openDialog(), nullptr);
     EXPECT_TRUE(mainWindow.isEnabled());
     EXPECT_EQ(closed, 1);
     EXPECT_EQ(serialisePage(page()), before);
@@ -201,12 +155,12 @@ TEST_F(PagePropertiesWindow, FaultsKeepTheDialogOpenUntilTheyAreMended)
     field("sndfn").clear();
     field("bkght").setText("0");
     refused("Invalid background height.", nullptr);
-    field("bkght").setText("300"); // as it was at first
-    field("bkgwd").setText(QString::number(dialog()->screen()->size().width() + 1));
+    field("bkght").setText("300");
+    field("bkgwd").setText(QString::number(openDialog()->screen()->size().width() + 1));
     refused("Invalid background width.", nullptr);
     field("bkgwd").setText("401");
     press("ok");
-    EXPECT_EQ(dialog(), nullptr);
+    EXPECT_EQ(openDialog(), nullptr);
     EXPECT_EQ(page().bkght, 300);
     EXPECT_EQ(page().bkgwd, 401);
 }
@@ -226,31 +180,19 @@ TEST_F(PagePropertiesWindow, PageTypeShowsTableAndStatement)
     }
 }
 
-TEST_F(PagePropertiesWindow, ImageNameSwitchesTheSizeOff)
-{
-    open();
-    field("imgfn").setText("  ");
-    EXPECT_TRUE(field("bkght").isEnabled());
-    field("imgfn").setText("paper.bmp");
-    for (const char *name : {"bkght", "bkgwd", "bkghtlabel", "bkgwdlabel"})
-        EXPECT_FALSE(field<QWidget>(name).isEnabled()) << name;
-    field("imgfn").clear();
-    EXPECT_TRUE(field("bkgwd").isEnabled());
-}
-
 TEST_F(PagePropertiesWindow, TakesDraggedSourceAndTable)
 {
     connection().source = "Shop";
     connection().user = "ann";
     connection().password = "secret";
     open();
-    EXPECT_TRUE(drop(field("dsn"), "dsn", "Shop"));
+    EXPECT_TRUE(dropOn(field("dsn"), "dsn", "Shop"));
     EXPECT_EQ(field("dsn").text() + field("Username").text() + field("Password").text(), "Shopannsecret");
     EXPECT_EQ(field("Password").echoMode(), QLineEdit::Password);
-    EXPECT_TRUE(drop(field("deftbl"), "dbs", "Order Lines"));
+    EXPECT_TRUE(dropOn(field("deftbl"), "dbs", "Order Lines"));
     EXPECT_EQ(field("deftbl").text(), "Order Lines");
-    EXPECT_FALSE(drop(field("deftbl"), "dsn", "Shop"));
-    EXPECT_FALSE(drop(field("dsn"), "fld", "Customers\tName\t0\t40"));
+    EXPECT_FALSE(dropOn(field("deftbl"), "dsn", "Shop"));
+    EXPECT_FALSE(dropOn(field("dsn"), "fld", "Customers\tName\t0\t40"));
     EXPECT_EQ(field("deftbl").text() + field("dsn").text(), "Order LinesShop");
 }
 
@@ -270,15 +212,24 @@ TEST_F(PagePropertiesWindow, GenerateSelectsTheWholeTable)
     EXPECT_EQ(field<QPlainTextEdit>("SelectStmt").toPlainText(), "Select * From \"Order Details\"");
 }
 
-TEST_F(PagePropertiesWindow, SecondOpeningKeepsTheFirst)
+TEST_F(PagePropertiesWindow, PictureGivesThePageItsSizeWhenItFitsTheScreen)
 {
+    auto picture = std::make_shared<Picture>();
+    pictureLoader() = [&picture](const std::string &) { return picture; };
     open();
-    QDialog *first = dialog();
-    field("pgcaption").setText("being typed");
-    open();
-    EXPECT_EQ(dialog(), first);
-    EXPECT_EQ(field("pgcaption").text(), "being typed");
-    press("cancbut");
-    EXPECT_EQ(dialog(), nullptr);
-    EXPECT_EQ(closed, 1);
+    field("imgfn").setText("paper.bmp");
+    EXPECT_FALSE(field("bkght").isEnabled() || field("bkgwd").isEnabled());
+    const QSize screen = openDialog()->screen()->size();
+    picture->width = 64;
+    picture->height = screen.height() + 1;
+    refused("Invalid picture's height.", nullptr);
+    picture->height = 48;
+    picture->width = screen.width() + 1;
+    refused("Invalid picture's width.", nullptr);
+    picture->width = 64;
+    press("ok");
+    EXPECT_EQ(page().bkgwd, 64);
+    EXPECT_EQ(page().bkght, 48);
+    EXPECT_TRUE(page().pgflags & sizeFromImage);
+    pictureLoader() = nullptr;
 }

@@ -115,11 +115,5 @@ TEST_F(QtPictures, WhatIsNoPictureGivesNone)
     EXPECT_FALSE(imageOf(std::make_shared<Picture>()));
 }
 
-TEST_F(QtPictures, APipeDoesNotBlock)
-{
-    ASSERT_EQ(mkfifo((drive.root() / "PIPE.BMP").c_str(), 0600), 0);
-    EXPECT_FALSE(pictureLoader()("C:\\PIPE.BMP"));
-}
-
 } // namespace
 } // namespace corvanta

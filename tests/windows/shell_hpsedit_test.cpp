@@ -1,38 +1,32 @@
 #include "canvas/selection.h"
 #include "canvas/ui/editform.h"
-#include "document/events.h"
-#include "document/objects.h"
-#include "document/page_file.h"
 #include "platform/profile.h"
 #include "shell/commands.h"
 #include "shell/ui/hpsedit.h"
 #include "shell/ui/startup.h"
 #include "shell/ui/strip.h"
+#include "tests/support/fresh_page.h"
+#include "tests/support/modal_driver.h"
 #include "tests/support/samples.h"
 #include "tests/support/scripted_asking.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QMenu>
 #include <QMenuBar>
 #include <QTest>
 #include <QToolButton>
-
-#include <gtest/gtest.h>
 
 namespace corvanta {
 
 namespace {
 
 // The editor with its windows on a page of the drive.
-class ShellMainWindow : public testing::Test {
+class ShellMainWindow : public FreshPage {
 protected:
     ShellMainWindow()
     {
         setProfileFolder((drive.root() / "profile").string());
         drive.add("PAGES/R&D.ODS", samples::sample("record.ods"));
-        documentEvents() = {};
-        editing() = {};
         laterCommands().showObjectList = laterCommands().openObjectProperties = [this] { ++laterCalls; };
         windows = std::make_unique<EditorWindows>();
         windows->start("C:\\PAGES\\R&D.ODS");
@@ -41,18 +35,10 @@ protected:
     {
         windows.reset();
         laterCommands() = {};
-        clearObjects();
-        page() = Page();
-        editing() = {};
         setProfileFolder("/dev/null/nothing");
     }
 
-    template <class Control> Control &child(const char *name)
-    {
-        auto *found = windows->main().findChild<Control *>(QString::fromLatin1(name));
-        EXPECT_NE(found, nullptr) << name;
-        return *found;
-    }
+    template <class Control> Control &child(const char *name) { return find<Control>(windows->main(), name); }
     bool enabled(const char *action) { return child<QAction>(action).isEnabled(); }
     QToolButton &button(int index) { return child<QToolButton>(qPrintable(QString("toolbar%1").arg(index))); }
 
@@ -83,27 +69,6 @@ TEST_F(ShellMainWindow, ShowsTheFileAndSnapsToTheStrip)
     runCommand(Command::New);
     EXPECT_EQ(panel.caption(), "(New file)");
     EXPECT_EQ(panel.property("tag"), "");
-}
-
-TEST_F(ShellMainWindow, MenusFollowTheTable)
-{
-    QStringList bar;
-    for (const QAction *action : windows->main().menuBar()->actions())
-        bar += action->objectName();
-    EXPECT_EQ(bar, QStringList({"filemenu", "pagemenu", "objmenu", "helpmenu"}));
-    for (const MenuRow &row : menuTable()) {
-        const auto &action = child<QAction>(row.element);
-        EXPECT_EQ(action.isSeparator(), isSeparator(row)) << row.element;
-        if (!isSeparator(row)) {
-            EXPECT_EQ(action.text(), row.caption);
-        }
-        EXPECT_EQ(action.property("helpid").toInt(), row.helpId) << row.element;
-    }
-    QStringList kinds;
-    for (const QAction *item : child<QAction>("addmenu").menu()->actions())
-        if (item->isVisible())
-            kinds += item->text();
-    EXPECT_EQ(kinds.join(' '), "&Button Combo &Box &File &Grid &Hot Spot &Image &Image &DB &Label &Text Box &Url");
 }
 
 TEST_F(ShellMainWindow, ItemsAndButtonsFollowThePage)
@@ -151,32 +116,6 @@ TEST_F(ShellMainWindow, CanvasIsHiddenUnlessTheWindowIsNormal)
     canvas.setProperty("tag", "IN INPOPTS");
     main.showMinimized();
     EXPECT_TRUE(canvas.isVisible());
-}
-
-TEST_F(ShellMainWindow, PageMenuSwitchesThePanelsOfTheCanvas)
-{
-    const int before = windows->canvas()->height();
-    child<QAction>("mockmenu").trigger();
-    EXPECT_FALSE(child<QAction>("mockmenu").isChecked());
-    EXPECT_LT(windows->canvas()->height(), before);
-    child<QAction>("mockmenu").trigger();
-    EXPECT_TRUE(child<QAction>("mockmenu").isChecked());
-    EXPECT_EQ(windows->canvas()->height(), before);
-}
-
-TEST_F(ShellMainWindow, AltEnterReachesTheCanvasAndTheCanvasOpensMenus)
-{
-    selectObject(0);
-    QTest::keyClick(&windows->main(), Qt::Key_Return, Qt::AltModifier);
-    EXPECT_EQ(laterCalls, 1);
-    QTest::keyClick(windows->canvas(), Qt::Key_O, Qt::AltModifier);
-    QMenu *menu = child<QAction>("objmenu").menu();
-    EXPECT_TRUE(menu->isVisible());
-    menu->close();
-    QTest::mouseDClick(&child<QWidget>("tbarpic"), Qt::LeftButton, {}, QPoint(1, 1));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return child<QAction>("addmenu").menu()->isVisible(); }));
-    child<QAction>("addmenu").menu()->close();
-    menu->close();
 }
 
 TEST_F(ShellMainWindow, ClosingAsksAndUnloadsTheCanvas)

@@ -1,4 +1,4 @@
-#include "tests/rules/database_sources.h"
+#include "tests/support/database_sources.h"
 
 #include <gtest/gtest.h>
 
