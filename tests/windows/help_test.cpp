@@ -25,7 +25,12 @@ QWidget *viewer()
     return nullptr;
 }
 
-template <class Control> Control &part(const char *name) { return find<Control>(*viewer(), name); }
+template <class Control> Control &part(const char *name)
+{
+    if (!viewer())
+        throw std::runtime_error("no help window");
+    return find<Control>(*viewer(), name);
+}
 
 class HelpWindow : public testing::Test {
 protected:
