@@ -3,6 +3,7 @@
 #include "document/page.h"
 #include "platform/codepage.h"
 #include "platform/host_files.h"
+#include "tools/reading_failure.h"
 
 #include <CLI/Config.hpp>
 #include <CLI/Formatter.hpp>
@@ -26,17 +27,6 @@ void useCodePage(int number)
 {
     if (!setCodePage(number))
         throw CLI::ValidationError("--codepage", "unknown code page " + std::to_string(number));
-}
-
-std::string readingFailure(const FileContent &content)
-{
-    if (content.missing)
-        return "no such file";
-    if (content.tooLarge)
-        return "more than " + std::to_string(fileLimit) + " bytes";
-    if (!content.error.empty())
-        return toUtf8(content.error);
-    return content.bytes.empty() ? "the file is empty" : "";
 }
 
 } // namespace

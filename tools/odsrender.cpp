@@ -6,6 +6,7 @@
 #include "platform/qt/fonts.h"
 #include "platform/qt/qt_pictures.h"
 #include "platform/text.h"
+#include "tools/reading_failure.h"
 
 #include <CLI/CLI.hpp>
 #include <QGuiApplication>
@@ -41,14 +42,7 @@ int fail(const std::string &file, const std::string &reason)
 // Why the file cannot be opened as a page; empty when it can.
 std::string obstacle(const std::string &path)
 {
-    const FileContent content = readFile(path, fileLimit);
-    if (path.empty() || content.missing)
-        return "no such file";
-    if (content.tooLarge)
-        return "more than " + std::to_string(fileLimit) + " bytes";
-    if (!content.error.empty())
-        return toUtf8(content.error);
-    return content.bytes.empty() ? "the file is empty" : "";
+    return path.empty() ? "no such file" : readingFailure(readFile(path, fileLimit));
 }
 
 // The page without a size of its own takes that of a new canvas window.

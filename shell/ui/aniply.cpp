@@ -12,19 +12,12 @@
 
 namespace corvanta {
 
-namespace {
-
-constexpr int textWidth = 240; // pixels; leaves room for the caption
-
-} // namespace
-
 void showPlayer(QWidget *owner)
 {
     QDialog dialog;
     QVBoxLayout *contents = startDialog(dialog, "aniply", "Animation Player");
     Fields fields = addFields(*contents);
     QLabel *playtext = addInfoRow(fields, "playtext", "");
-    playtext->setMinimumWidth(textWidth);
     QPushButton *stopbut = addButtons(dialog, {{"stopbut", "&Stop", [&dialog] { dialog.reject(); }}}).front();
     const PlayerTexts texts = openPlayer();
     playtext->setText(toQString(texts.playtext));
