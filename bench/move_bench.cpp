@@ -26,8 +26,8 @@ void moveObjectOverPage(benchmark::State &state)
     fillPage(state.range(0));
     std::int64_t repaints = 0;
     canvasEvents() = {};
-    canvasEvents().drawOutline = [](const Rect &r) { benchmark::DoNotOptimize(r.left); };
-    canvasEvents().repaintUnder = [&](std::int16_t) { ++repaints; };
+    canvasEvents().drawOutline.listen([](const Rect &r) { benchmark::DoNotOptimize(r.left); });
+    canvasEvents().repaintUnder.listen([&](std::int16_t) { ++repaints; });
     for (auto _ : state) {
         state.PauseTiming();
         cancelGesture();

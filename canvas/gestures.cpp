@@ -46,7 +46,7 @@ void emptyPressedObject()
 {
     state.emptied = showsContent(state.object);
     if (state.emptied)
-        tell(canvasEvents().emptyVisual, state.object);
+        canvasEvents().emptyVisual(state.object);
 }
 
 // Ends the gesture: the page shows no trace of it.
@@ -57,7 +57,7 @@ void endGesture()
     state = {};
     state.ctrlclick = ended.ctrlclick;
     if (ended.emptied && hasObject(page(), ended.object))
-        tell(canvasEvents().restoreVisual, ended.object);
+        canvasEvents().restoreVisual(ended.object);
 }
 
 void beginDrag(std::int16_t index, Point at)
@@ -230,9 +230,9 @@ void drawOutline(const Rect &r)
 {
     state.outline = r;
     state.outlineShown = true;
-    tell(canvasEvents().drawOutline, r);
+    canvasEvents().drawOutline(r);
     if (state.group)
-        tell(canvasEvents().showGroupFrame, state.multbox);
+        canvasEvents().showGroupFrame(state.multbox);
 }
 
 void hideOutline()
@@ -240,19 +240,20 @@ void hideOutline()
     if (!state.outlineShown)
         return;
     state.outlineShown = false;
-    tell(canvasEvents().hideOutline);
+    canvasEvents().hideOutline();
     if (state.group)
-        tell(canvasEvents().hideGroupFrame);
+        canvasEvents().hideGroupFrame();
 }
 
 void refreshUnder(const Rect &r)
 {
-    if (canvasEvents().repaintUnder)
-        controls.eachUnder(r, canvasEvents().repaintUnder);
+    controls.eachUnder(r, [](std::int16_t index) { canvasEvents().repaintUnder(index); });
 }
 
 void moveSelectionTo(const Rect &r)
 {
+    const Rect before = rectOf(record(editing().curobj));
+    const bool sameSize = state.group || (before.width == r.width && before.height == r.height);
     if (state.group) {
         moveGroup();
     } else {
@@ -260,7 +261,7 @@ void moveSelectionTo(const Rect &r)
         placeFrameMarkers(editing().curobj);
         showTrackers();
     }
-    pageEdited();
+    pageEdited(sameSize ? "Move" : "Resize");
 }
 
 void alignSelection(std::int16_t mode)
@@ -278,7 +279,7 @@ void alignSelection(std::int16_t mode)
         any = true;
     }
     if (any)
-        pageEdited();
+        pageEdited("Align");
 }
 
 } // namespace corvanta

@@ -49,7 +49,7 @@ PlayerTexts openPlayer()
         return {"No frames to play.", "Close"};
     playing = element;
     hideTrackers();
-    tell(playerEvents().previewBegins, element);
+    playerEvents().previewBegins(element);
     startAnimation(element);
     return {"Playing" + profileNumber(static_cast<int>(frames.size())) + " frames...", ""};
 }
@@ -60,7 +60,7 @@ void closePlayer()
         return;
     const std::int16_t element = std::exchange(playing, noObject);
     stopRunning(findObjectByControl(page(), Kind::Animation, element));
-    tell(playerEvents().previewEnds, element);
+    playerEvents().previewEnds(element);
     showTrackers();
 }
 

@@ -1,15 +1,17 @@
 #pragma once
 
+#include "platform/event.h"
+
 #include <cstdint>
-#include <functional>
 #include <string>
 
 // The animation player: plays the current animation on the canvas while its window is open.
 namespace corvanta {
 
 struct PlayerEvents {
-    // The animation's frame loses its border; at the end it has it again and the images rest in their places.
-    std::function<void(std::int16_t element)> previewBegins, previewEnds;
+    // Told with the element: the animation's frame loses its border; at the end it has it again and the images rest in
+    // their places.
+    Event<std::int16_t> previewBegins, previewEnds;
 };
 
 PlayerEvents &playerEvents();

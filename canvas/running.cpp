@@ -14,7 +14,7 @@ namespace {
 
 std::int32_t clockTenths() { return static_cast<std::int32_t>(tickCount() / 100); }
 
-void enableTimer(bool on) { tell(runningEvents().enableTimer, on); }
+void enableTimer(bool on) { runningEvents().enableTimer(on); }
 
 const Frame &frameAt(const AnimationRun &run)
 {
@@ -27,7 +27,7 @@ void showFrame(std::int16_t element, AnimationRun &run, std::int16_t position)
     run.position = position;
     run.frameStart = clockTenths();
     const std::string sound = frameAt(run).sound;
-    tell(runningEvents().showFrame, element, run.frames[static_cast<std::size_t>(position)]);
+    runningEvents().showFrame(element, run.frames[static_cast<std::size_t>(position)]);
     if (!sound.empty() && plainFileName(sound))
         mciSendString("Play " + editing().curdir + sound);
 }
@@ -66,7 +66,7 @@ int twips(const std::function<int(std::int16_t)> &measure, std::int16_t element)
 void moveTicker(std::int16_t element, int left)
 {
     running().tickerLeft[element] = left;
-    tell(runningEvents().tickerMoved, element, left);
+    runningEvents().tickerMoved(element, left);
 }
 
 void tickerStep(std::int16_t element)

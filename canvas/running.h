@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/page.h"
+#include "platform/event.h"
 
 #include <cstdint>
 #include <functional>
@@ -30,11 +31,11 @@ struct AnimationRun {
 };
 
 struct RunningEvents {
-    std::function<void(bool)> enableTimer;                          // objtimer
-    std::function<int(std::int16_t)> tickerTextWidth;               // twips, of a ticker's inner picture
-    std::function<int(std::int16_t)> tickerInnerWidth;              // twips, of a ticker's frame
-    std::function<void(std::int16_t, int)> tickerMoved;             // element, left of the inner picture in twips
-    std::function<void(std::int16_t element, int frame)> showFrame; // the only frame of the animation on show
+    Event<bool> enableTimer;                           // objtimer
+    std::function<int(std::int16_t)> tickerTextWidth;  // twips, of a ticker's inner picture
+    std::function<int(std::int16_t)> tickerInnerWidth; // twips, of a ticker's frame
+    Event<std::int16_t, int> tickerMoved;              // element, left of the inner picture in twips
+    Event<std::int16_t, int> showFrame;                // element, number of the only frame of the animation on show
 };
 
 RunningEvents &runningEvents();

@@ -28,7 +28,7 @@ bool hasCurrentObject() { return hasObject(page(), editing().curobj); }
 void selectObject(std::int16_t index)
 {
     if (hasObject(page(), index))
-        tell(canvasEvents().bringToFront, index);
+        canvasEvents().bringToFront(index);
     hideTrackers();
     setCurrentObject(index);
 }
@@ -36,16 +36,16 @@ void selectObject(std::int16_t index)
 void setCurrentObject(std::int16_t index)
 {
     editing().curobj = hasObject(page(), index) ? index : noObject;
-    tell(canvasEvents().currentChanged);
+    canvasEvents().currentChanged();
 }
 
 void showTrackers()
 {
     if (hasCurrentObject())
-        tell(canvasEvents().showTrackers, rectOf(record(editing().curobj)));
+        canvasEvents().showTrackers(rectOf(record(editing().curobj)));
 }
 
-void hideTrackers() { tell(canvasEvents().hideTrackers); }
+void hideTrackers() { canvasEvents().hideTrackers(); }
 
 bool inMultiSelection(std::int16_t index) { return hasObject(page(), index) && record(index).selslot > 0; }
 
@@ -77,13 +77,13 @@ void clearMultiSelection()
 void placeFrameMarkers(std::int16_t index)
 {
     if (inMultiSelection(index))
-        tell(canvasEvents().placeFrameMarkers, record(index).selslot, rectOf(record(index)));
+        canvasEvents().placeFrameMarkers(record(index).selslot, rectOf(record(index)));
 }
 
 void hideFrameMarkers(std::int16_t index)
 {
     if (inMultiSelection(index))
-        tell(canvasEvents().hideFrameMarkers, record(index).selslot);
+        canvasEvents().hideFrameMarkers(record(index).selslot);
 }
 
 bool hasMembers()

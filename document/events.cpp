@@ -10,11 +10,10 @@ DocumentEvents &documentEvents()
     return events;
 }
 
-void pageEdited()
+void pageEdited(std::string_view act)
 {
     editing().pagedirty = true;
-    if (documentEvents().edited)
-        documentEvents().edited();
+    documentEvents().edited(act);
 }
 
 } // namespace corvanta

@@ -69,6 +69,12 @@ void buildKindRegistry()
             registerKind(static_cast<std::int16_t>(row.kind), row.displayName, row.menuCaption);
 }
 
+std::string objectName(std::int16_t code)
+{
+    const auto kind = kindOf(code);
+    return kind ? kindRow(*kind).displayName : "object";
+}
+
 std::string kindDisplayName(std::int16_t code) { return registered(code).displayName; }
 
 std::string kindMenuCaption(std::int16_t code) { return registered(code).menuCaption; }

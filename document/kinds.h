@@ -53,6 +53,9 @@ struct KindRow {
 // The row of a kind.
 const KindRow &kindRow(Kind kind);
 
+// What to call an object of a kind code in messages and acts: the kind's display name, "object" for an unknown kind.
+std::string objectName(std::int16_t code);
+
 // The kind registry: indexed by kind code, with one entry beyond the highest code; codes that the Add
 // submenu does not offer have empty entries.
 struct RegisteredKind {

@@ -26,11 +26,7 @@ void tell(const std::string &text, const char *title)
         showExclamation(text, title);
 }
 
-void tellObjectChanged(std::int16_t index)
-{
-    if (documentEvents().objectChanged)
-        documentEvents().objectChanged(index);
-}
+void tellObjectChanged(std::int16_t index) { documentEvents().objectChanged(index); }
 
 void loadObjectFile(std::int16_t index, Kind kind, const std::string &file)
 {
@@ -102,8 +98,7 @@ void loadPageMedia()
     playPageSound();
     for (std::int16_t i = 0; i < objectCount(page()); ++i)
         LoadObjectFiles(i);
-    if (documentEvents().pageChanged)
-        documentEvents().pageChanged();
+    documentEvents().pageChanged();
 }
 
 void LoadObjectFiles(std::int16_t index)

@@ -48,12 +48,12 @@ std::string chosenPath(FileDialog::Kind kind)
     return asking().fileDialog(objectDialog(kind)).value_or(std::string());
 }
 
-void completeAppended(std::int16_t index)
+void completeAppended(std::int16_t index, const std::string &act)
 {
     if (index == noObject)
         return;
     LoadObjectFiles(index);
-    pageEdited();
+    pageEdited(act + " " + objectName(page().objects[static_cast<std::size_t>(index)].kind));
 }
 
 } // namespace
@@ -89,7 +89,7 @@ void loadObject()
     if (text.empty())
         return;
     editing().curdir = withTrailingBackslash(directoryPart(path));
-    completeAppended(appendObjectFile(page(), text));
+    completeAppended(appendObjectFile(page(), text), "Load");
 }
 
 void duplicateObject()
@@ -97,7 +97,7 @@ void duplicateObject()
     if (!hasObject(page(), editing().curobj))
         return;
     const std::string body = unwrapped(serialiseObject(page(), editing().curobj));
-    completeAppended(appendBody(page(), body, currentVersion));
+    completeAppended(appendBody(page(), body, currentVersion), "Duplicate");
 }
 
 } // namespace corvanta

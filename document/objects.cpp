@@ -162,8 +162,7 @@ void moveCurrentAfterRemoval(std::int16_t index)
     std::int16_t &curobj = editing().curobj;
     if (curobj == index) {
         curobj = noObject;
-        if (documentEvents().currentCleared)
-            documentEvents().currentCleared();
+        documentEvents().currentCleared();
     } else if (curobj > index) {
         --curobj;
     }
@@ -186,10 +185,8 @@ std::int16_t createVisual(Page &p, std::string_view record)
     const std::int16_t code = decodeInt16(record);
     const std::int16_t index = record.empty() ? createNew(p, code) : createRead(p, code, record);
     if (&p == &page() && index != noObject) {
-        if (documentEvents().objectCreated)
-            documentEvents().objectCreated(index);
-        if (documentEvents().objectCount)
-            documentEvents().objectCount();
+        documentEvents().objectCreated(index);
+        documentEvents().objectCount();
     }
     return index;
 }
@@ -229,17 +226,14 @@ void deleteObject(std::int16_t index)
     Page &p = page();
     if (!hasObject(p, index))
         return;
-    if (documentEvents().objectRemoving)
-        documentEvents().objectRemoving(index);
+    documentEvents().objectRemoving(index);
     unloadElement(p, index);
     p.objects.erase(p.objects.begin() + index);
     p.ctlindex.erase(p.ctlindex.begin() + index);
     editing().pagedirty = true;
     moveCurrentAfterRemoval(index);
-    if (documentEvents().objectRemoved)
-        documentEvents().objectRemoved();
-    if (documentEvents().objectCount)
-        documentEvents().objectCount();
+    documentEvents().objectRemoved();
+    documentEvents().objectCount();
 }
 
 void clearObjects()
@@ -249,8 +243,7 @@ void clearObjects()
     page().objects.assign(1, {});
     page().ctlindex.assign(1, 0);
     editing().multcount = 0;
-    if (documentEvents().pageReset)
-        documentEvents().pageReset();
+    documentEvents().pageReset();
 }
 
 void setObjectGeometry(std::int16_t index, std::int16_t top, std::int16_t left, std::int16_t height, std::int16_t width)
@@ -268,8 +261,7 @@ void setObjectGeometry(std::int16_t index, std::int16_t top, std::int16_t left, 
     if (Element *e = elementOf(p, index))
         placeElement(*e, o);
     editing().pagedirty = true;
-    if (documentEvents().objectChanged)
-        documentEvents().objectChanged(index);
+    documentEvents().objectChanged(index);
 }
 
 std::int16_t findObjectByControl(const Page &p, Kind kind, std::int16_t element)

@@ -23,16 +23,10 @@ void tellReadError(std::string_view text)
         showExclamation(text, readingFile);
 }
 
-void call(const std::function<void()> &event)
-{
-    if (event)
-        event();
-}
-
 void setFileTag(const std::string &path)
 {
     editing().filetag = path;
-    call(documentEvents().fileChanged);
+    documentEvents().fileChanged();
 }
 
 std::string directoryOfFile(const std::string &path)
@@ -118,7 +112,7 @@ void parsePage(Page &p, std::string_view text)
         readPageHeader(p, header);
     if (&p == &page()) {
         editing().lentSize.reset();
-        call(documentEvents().pageLayout);
+        documentEvents().pageLayout();
     }
     while (!text.empty())
         createVisual(p, decodeString(text));
@@ -156,9 +150,9 @@ void newPage()
     page() = Page();
     editing().lentSize.reset();
     setFileTag("");
-    call(documentEvents().showCanvas);
-    call(documentEvents().pageLayout);
-    call(documentEvents().objectCount);
+    documentEvents().showCanvas();
+    documentEvents().pageLayout();
+    documentEvents().objectCount();
     editing().pagedirty = false;
 }
 

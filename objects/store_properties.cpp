@@ -220,7 +220,7 @@ Confirmation ConfirmProperties(std::int16_t index, const PropertyFields &fields)
         storeKindFields(t, fields);
     }
     LoadObjectFiles(index);
-    pageEdited();
+    pageEdited(objectName(static_cast<std::int16_t>(t.kind)) + " properties");
     return {true, ""};
 }
 

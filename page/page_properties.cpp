@@ -140,11 +140,9 @@ PageConfirmation ConfirmPageProperties(const PagePropertyFields &f, ScreenSize s
     storeBackground(p, f, picture);
     storeFields(p, f);
     playPageSound();
-    if (documentEvents().pageLayout)
-        documentEvents().pageLayout();
-    if (documentEvents().pageChanged)
-        documentEvents().pageChanged();
-    pageEdited();
+    documentEvents().pageLayout();
+    documentEvents().pageChanged();
+    pageEdited("Page properties");
     return {true, ""};
 }
 

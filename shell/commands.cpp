@@ -43,9 +43,9 @@ void align(AlignMode mode) { alignSelection(static_cast<std::int16_t>(mode)); }
 
 } // namespace
 
-LaterCommands &laterCommands()
+RoomCommands &roomCommands()
 {
-    static LaterCommands commands;
+    static RoomCommands commands;
     return commands;
 }
 
@@ -60,28 +60,28 @@ const PageMenuMarks &pageMenuMarks() { return marks; }
 void markMockToolbar(bool shown)
 {
     marks.mockToolbar = shown;
-    tell(commandEvents().marksChanged);
-    tell(commandEvents().showMockToolbar, shown);
+    commandEvents().marksChanged();
+    commandEvents().showMockToolbar(shown);
 }
 
 void markStatusPanel(bool shown)
 {
     marks.statusPanel = shown;
-    tell(commandEvents().marksChanged);
-    tell(commandEvents().showStatusPanel, shown);
+    commandEvents().marksChanged();
+    commandEvents().showStatusPanel(shown);
 }
 
 void markOdbcToolbar(bool shown)
 {
     marks.odbcToolbar = shown;
-    tell(commandEvents().marksChanged);
-    tell(laterCommands().toggleOdbc, shown);
+    commandEvents().marksChanged();
+    tell(roomCommands().toggleOdbc, shown);
 }
 
 void odbcToolbarClosed()
 {
     marks.odbcToolbar = false;
-    tell(commandEvents().marksChanged);
+    commandEvents().marksChanged();
 }
 
 ObjectCommandState objectCommandState()
@@ -97,7 +97,7 @@ ObjectCommandState objectCommandState()
 
 bool commandEnabled(Command command)
 {
-    const LaterCommands &later = laterCommands();
+    const RoomCommands &rooms = roomCommands();
     const ObjectCommandState state = objectCommandState();
     switch (command) {
     case Command::None:
@@ -110,24 +110,24 @@ bool commandEnabled(Command command)
     case Command::StatusPanel:
     case Command::Add:
     case Command::LoadObject: return true;
-    case Command::ExportHtml: return bool(later.exportHtml);
-    case Command::Directory: return bool(later.showDirectory);
-    case Command::PageProperties: return bool(later.openPageProperties);
-    case Command::OdbcToolbar: return bool(later.toggleOdbc);
-    case Command::ObjectList: return later.showObjectList && state.list;
-    case Command::ObjectProperties: return later.openObjectProperties && state.current;
+    case Command::ExportHtml: return bool(rooms.exportHtml);
+    case Command::Directory: return bool(rooms.showDirectory);
+    case Command::PageProperties: return bool(rooms.openPageProperties);
+    case Command::OdbcToolbar: return bool(rooms.toggleOdbc);
+    case Command::ObjectList: return rooms.showObjectList && state.list;
+    case Command::ObjectProperties: return rooms.openObjectProperties && state.current;
     case Command::Align:
     case Command::AlignLeft:
     case Command::AlignRight:
     case Command::AlignTop:
     case Command::AlignBottom: return state.align;
-    case Command::Animate: return later.playAnimation && state.animation;
+    case Command::Animate: return rooms.playAnimation && state.animation;
     case Command::Duplicate:
     case Command::SaveObject:
     case Command::Delete: return state.current;
-    case Command::HelpContents: return bool(later.helpContents);
-    case Command::HelpSearch: return bool(later.helpSearch);
-    case Command::About: return bool(later.about);
+    case Command::HelpContents: return bool(rooms.helpContents);
+    case Command::HelpSearch: return bool(rooms.helpSearch);
+    case Command::About: return bool(rooms.about);
     }
     return false;
 }
@@ -141,7 +141,7 @@ bool commandChecked(Command command)
 
 void runCommand(Command command)
 {
-    const LaterCommands &later = laterCommands();
+    const RoomCommands &rooms = roomCommands();
     switch (command) {
     case Command::None:
     case Command::Add:
@@ -150,27 +150,27 @@ void runCommand(Command command)
     case Command::Open: chooseAndOpenPage(); break;
     case Command::Save: savePage(); break;
     case Command::SaveAs: savePageAs(); break;
-    case Command::ExportHtml: tell(later.exportHtml); break;
-    case Command::Directory: tell(later.showDirectory); break;
-    case Command::Exit: tell(commandEvents().closeMain); break;
-    case Command::PageProperties: tell(later.openPageProperties); break;
+    case Command::ExportHtml: tell(rooms.exportHtml); break;
+    case Command::Directory: tell(rooms.showDirectory); break;
+    case Command::Exit: commandEvents().closeMain(); break;
+    case Command::PageProperties: tell(rooms.openPageProperties); break;
     case Command::MockToolbar: markMockToolbar(!marks.mockToolbar); break;
     case Command::StatusPanel: markStatusPanel(!marks.statusPanel); break;
     case Command::OdbcToolbar: markOdbcToolbar(!marks.odbcToolbar); break;
-    case Command::ObjectList: tell(later.showObjectList); break;
-    case Command::ObjectProperties: tell(later.openObjectProperties); break;
+    case Command::ObjectList: tell(rooms.showObjectList); break;
+    case Command::ObjectProperties: tell(rooms.openObjectProperties); break;
     case Command::AlignLeft: align(AlignMode::Left); break;
     case Command::AlignRight: align(AlignMode::Right); break;
     case Command::AlignTop: align(AlignMode::Top); break;
     case Command::AlignBottom: align(AlignMode::Bottom); break;
-    case Command::Animate: tell(later.playAnimation); break;
+    case Command::Animate: tell(rooms.playAnimation); break;
     case Command::Duplicate: duplicateObject(); break;
     case Command::LoadObject: loadObject(); break;
     case Command::SaveObject: saveObject(); break;
     case Command::Delete: deleteSelection(); break;
-    case Command::HelpContents: tell(later.helpContents); break;
-    case Command::HelpSearch: tell(later.helpSearch); break;
-    case Command::About: tell(later.about); break;
+    case Command::HelpContents: tell(rooms.helpContents); break;
+    case Command::HelpSearch: tell(rooms.helpSearch); break;
+    case Command::About: tell(rooms.about); break;
     }
 }
 
@@ -189,12 +189,14 @@ void addFromMenu(int menuIndex)
     clearMultiSelection();
     selectObject(index); // so that the next command acts on what the author sees appear
     showTrackers();
-    pageEdited();
+    pageEdited("Add " + objectName(object(index).kind));
 }
 
 void deleteSelection()
 {
     const std::int16_t before = objectCount(page());
+    const bool one = editing().multcount == 0 && hasObject(page(), editing().curobj);
+    const std::string name = one ? objectName(object(editing().curobj).kind) : std::string();
     if (editing().multcount > 0) {
         for (std::int16_t index = before; index-- > 0;)
             if (object(index).selslot > 0)
@@ -202,8 +204,9 @@ void deleteSelection()
     } else {
         deleteObject(editing().curobj);
     }
-    if (objectCount(page()) != before)
-        pageEdited();
+    const int deleted = before - objectCount(page());
+    if (deleted > 0)
+        pageEdited("Delete " + (one ? name : std::to_string(deleted) + (deleted == 1 ? " object" : " objects")));
 }
 
 } // namespace corvanta

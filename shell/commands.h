@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/event.h"
 #include "shell/menu_table.h"
 
 #include <functional>
@@ -7,9 +8,9 @@
 // What the main window's commands do on the process-wide page, and when they can be used.
 namespace corvanta {
 
-// The commands of rooms that the shell does not know; each room fills its own at start-up. A command whose
-// function is empty is disabled.
-struct LaterCommands {
+// The commands whose windows stand in other rooms; each room fills its own at start-up. A command whose function is
+// empty is disabled.
+struct RoomCommands {
     std::function<void()> openObjectProperties; // of the current object
     std::function<void()> openPageProperties;
     std::function<void()> showObjectList;
@@ -21,14 +22,14 @@ struct LaterCommands {
     std::function<void()> about;
 };
 
-LaterCommands &laterCommands();
+RoomCommands &roomCommands();
 
-// What the commands tell the main and canvas windows. Empty members are not called.
+// What the commands tell the main and canvas windows.
 struct CommandEvents {
-    std::function<void()> closeMain;           // as the user closes the main window
-    std::function<void()> marksChanged;        // check marks of the Page menu
-    std::function<void(bool)> showMockToolbar; // on the canvas window
-    std::function<void(bool)> showStatusPanel;
+    Event<> closeMain;           // as the user closes the main window
+    Event<> marksChanged;        // check marks of the Page menu
+    Event<bool> showMockToolbar; // on the canvas window
+    Event<bool> showStatusPanel;
 };
 
 CommandEvents &commandEvents();

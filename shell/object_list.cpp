@@ -28,8 +28,9 @@ void deleteListedObject(std::int16_t index)
 {
     if (!hasObject(page(), index))
         return;
+    const std::string act = "Delete " + objectName(page().objects[static_cast<std::size_t>(index)].kind);
     deleteObject(index);
-    pageEdited();
+    pageEdited(act);
 }
 
 } // namespace corvanta

@@ -21,6 +21,8 @@ namespace corvanta {
 
 namespace {
 
+EventConnection showingCanvas;
+
 bool isDrivePath(std::string_view path)
 {
     const bool letter = path.size() > 1 && path[1] == ':' && ((path[0] | 0x20) >= 'a' && (path[0] | 0x20) <= 'z');
@@ -82,7 +84,7 @@ void startCanvas()
     applySettings();
     page().bkgwd = page().bkght = 0; // the new page takes the size that the window has now
     tell(sessionSteps().showCanvas);
-    if (laterCommands().toggleOdbc)
+    if (roomCommands().toggleOdbc)
         markOdbcToolbar(true);
 }
 
@@ -113,11 +115,11 @@ CommandLineFile commandLineFile(std::string_view argument)
 
 void startSession(std::string_view argument)
 {
-    documentEvents().showCanvas = [loaded = false]() mutable {
+    showingCanvas = documentEvents().showCanvas.connect([loaded = false]() mutable {
         if (!loaded)
             startCanvas();
         loaded = true;
-    };
+    });
     newPage();
     const CommandLineFile file = commandLineFile(argument);
     if (file.name.empty())
@@ -139,7 +141,7 @@ void endSession()
         markOdbcToolbar(false);
     OdbcNameEndDll();
     tell(sessionSteps().unloadCanvas);
-    documentEvents().showCanvas = {};
+    showingCanvas.disconnect();
 }
 
 WindowSettings keptOnScreen(WindowSettings s, const ScreenSizes &sizes)

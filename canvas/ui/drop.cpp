@@ -30,7 +30,7 @@ std::int16_t addObjectAt(Kind kind, Point at)
 void dropObject(Kind kind, Point at)
 {
     if (addObjectAt(kind, at) != noObject)
-        pageEdited();
+        pageEdited("Add " + objectName(static_cast<std::int16_t>(kind)));
 }
 
 } // namespace corvanta

@@ -16,9 +16,8 @@ void dropField(Point at, std::string_view payload)
     if (index == noObject)
         return;
     bindColumn(page(), index, *column);
-    if (documentEvents().objectChanged)
-        documentEvents().objectChanged(index);
-    pageEdited();
+    documentEvents().objectChanged(index);
+    pageEdited("Add bound " + objectName(static_cast<std::int16_t>(kind)));
 }
 
 } // namespace corvanta

@@ -157,7 +157,7 @@ void Editform::takeSizeFromWindow()
     p.bkght = height;
     area->resize(width, height);
     if (before != unasked || !editing().filetag.empty()) // the first size of a new page is no edit
-        pageEdited();
+        pageEdited("Page size");
     unasked = {};
 }
 

@@ -5,6 +5,7 @@
 #include "canvas/ui/panels.h"
 #include "canvas/ui/trackers.h"
 #include "canvas/ui/visuals.h"
+#include "platform/event.h"
 
 #include <QList>
 #include <QTimer>
@@ -66,6 +67,7 @@ private:
     Trackers trackers;
     Visuals visuals;
     CanvasInput input;
+    EventConnections connections; // to the document, the rules of the canvas and what runs
     QTimer objtimer;
     QTimer settling;         // runs while the window system may still answer to a size of ours
     QList<QSize> superseded; // sizes that others have taken the place of, since the user's last

@@ -29,60 +29,57 @@ void changeLive(Visual *visual, const auto &change)
 
 Editform::~Editform()
 {
-    DocumentEvents &document = documentEvents();
-    document.objectCreated = document.objectRemoving = document.objectChanged = {};
-    document.currentCleared = document.pageLayout = document.pageChanged = document.pageReset = {};
-    canvasEvents() = {};
-    runningEvents() = {};
-    playerEvents() = {};
+    connections.clear();
+    runningEvents().tickerTextWidth = runningEvents().tickerInnerWidth = {};
     clearRunning();
 }
 
 void Editform::listenToDocument()
 {
     DocumentEvents &document = documentEvents();
-    document.objectCreated = [this](std::int16_t index) { createVisual(index); };
-    document.objectRemoving = [this](std::int16_t index) {
+    connections.add(document.objectCreated, [this](std::int16_t index) { createVisual(index); });
+    connections.add(document.objectRemoving, [this](std::int16_t index) {
         objectLeavesCanvas(index);
         visuals.remove(index);
-    };
-    document.objectChanged = [this](std::int16_t index) { objectChanged(index); };
-    document.currentCleared = [] {
+    });
+    connections.add(document.objectChanged, [this](std::int16_t index) { objectChanged(index); });
+    connections.add(document.currentCleared, [] {
         hideTrackers();
-        tell(canvasEvents().currentChanged);
-    };
-    document.pageLayout = [this] { applyPageLayout(); };
-    document.pageChanged = [this] { repaintPage(); };
-    document.pageReset = [this] {
+        canvasEvents().currentChanged();
+    });
+    connections.add(document.pageLayout, [this] { applyPageLayout(); });
+    connections.add(document.pageChanged, [this] { repaintPage(); });
+    connections.add(document.pageReset, [this] {
         resetCanvas();
         trackers.hideAll();
         area->update();
-    };
+    });
 }
 
 void Editform::listenToCanvas()
 {
     CanvasEvents &events = canvasEvents();
-    events.bringToFront = [this](std::int16_t index) { visuals.raise(index); };
-    events.currentChanged = [this] {
+    connections.add(events.bringToFront, [this](std::int16_t index) { visuals.raise(index); });
+    connections.add(events.currentChanged, [this] {
         showStatus(noObject);
         tell(commands.currentChanged);
-    };
-    events.showTrackers = [this](const Rect &r) { trackers.showHandles(r); };
-    events.hideTrackers = [this] { trackers.hideHandles(); };
-    events.placeFrameMarkers = [this](std::int16_t slot, const Rect &r) { trackers.placeMarkers(slot, r); };
-    events.hideFrameMarkers = [this](std::int16_t slot) { trackers.hideMarkers(slot); };
-    events.drawOutline = [this](const Rect &r) { trackers.drawOutline(r); };
-    events.hideOutline = [this] { trackers.hideOutline(); };
-    events.showGroupFrame = [this](const Rect &r) { trackers.showGroupFrame(r); };
-    events.hideGroupFrame = [this] { trackers.hideGroupFrame(); };
+    });
+    connections.add(events.showTrackers, [this](const Rect &r) { trackers.showHandles(r); });
+    connections.add(events.hideTrackers, [this] { trackers.hideHandles(); });
+    connections.add(events.placeFrameMarkers,
+                    [this](std::int16_t slot, const Rect &r) { trackers.placeMarkers(slot, r); });
+    connections.add(events.hideFrameMarkers, [this](std::int16_t slot) { trackers.hideMarkers(slot); });
+    connections.add(events.drawOutline, [this](const Rect &r) { trackers.drawOutline(r); });
+    connections.add(events.hideOutline, [this] { trackers.hideOutline(); });
+    connections.add(events.showGroupFrame, [this](const Rect &r) { trackers.showGroupFrame(r); });
+    connections.add(events.hideGroupFrame, [this] { trackers.hideGroupFrame(); });
     // repaintUnder stays empty: where a line has left, the window system of the widgets paints by itself.
-    events.emptyVisual = [this](std::int16_t index) {
+    connections.add(events.emptyVisual, [this](std::int16_t index) {
         changeLive(visuals.of(index), [](LiveState &live) { live.emptied = true; });
-    };
-    events.restoreVisual = [this](std::int16_t index) {
+    });
+    connections.add(events.restoreVisual, [this](std::int16_t index) {
         changeLive(visuals.of(index), [](LiveState &live) { live.emptied = false; });
-    };
+    });
 }
 
 void Editform::listenToRunning()
@@ -92,25 +89,25 @@ void Editform::listenToRunning()
     objtimer.setTimerType(Qt::PreciseTimer);
     connect(&objtimer, &QTimer::timeout, this, [] { timerStep(); });
     RunningEvents &events = runningEvents();
-    events.enableTimer = [this](bool on) {
+    connections.add(events.enableTimer, [this](bool on) {
         if (on != objtimer.isActive())
             on ? objtimer.start() : objtimer.stop();
-    };
+    });
     events.tickerTextWidth = [](std::int16_t element) { return inTwips(tickerTextWidth(tickerElement(element))); };
     events.tickerInnerWidth = [](std::int16_t element) { return inTwips(tickerInnerWidth(tickerElement(element))); };
-    events.tickerMoved = [this](std::int16_t element, int left) {
+    connections.add(events.tickerMoved, [this](std::int16_t element, int left) {
         changeLive(visuals.of(Kind::Ticker, element),
                    [left](LiveState &live) { live.textOffset = left / running().twipsPerPixel; });
-    };
-    events.showFrame = [this](std::int16_t element, int frame) {
+    });
+    connections.add(events.showFrame, [this](std::int16_t element, int frame) {
         changeLive(visuals.of(Kind::Animation, element), [frame](LiveState &live) { live.frame = frame; });
-    };
-    playerEvents().previewBegins = [this](std::int16_t element) {
+    });
+    connections.add(playerEvents().previewBegins, [this](std::int16_t element) {
         changeLive(visuals.of(Kind::Animation, element), [](LiveState &live) { live.bordered = false; });
-    };
-    playerEvents().previewEnds = [this](std::int16_t element) {
+    });
+    connections.add(playerEvents().previewEnds, [this](std::int16_t element) {
         changeLive(visuals.of(Kind::Animation, element), [](LiveState &live) { live = {}; });
-    };
+    });
 }
 
 void Editform::createVisual(std::int16_t index)

@@ -40,8 +40,7 @@ DialogRow rowOf(Kind kind)
 
 void runClosed(const std::function<void()> &closed)
 {
-    if (documentEvents().pageChanged)
-        documentEvents().pageChanged();
+    documentEvents().pageChanged();
     if (closed)
         closed();
 }

@@ -27,7 +27,7 @@ void openCurrentProperties()
 
 Rooms::Rooms(EditorWindows &windows) : editor(windows)
 {
-    LaterCommands &commands = laterCommands();
+    RoomCommands &commands = roomCommands();
     commands.openObjectProperties = openCurrentProperties;
     commands.openPageProperties = [this] {
         openPageProperties([this] {
@@ -42,7 +42,7 @@ Rooms::Rooms(EditorWindows &windows) : editor(windows)
 
 Rooms::~Rooms()
 {
-    LaterCommands &commands = laterCommands();
+    RoomCommands &commands = roomCommands();
     commands.openObjectProperties = {};
     commands.openPageProperties = {};
     commands.exportHtml = {};

@@ -8,6 +8,7 @@
 #include "platform/asking.h"
 #include "platform/codepage.h"
 #include "platform/help.h"
+#include "platform/post.h"
 #include "platform/qt/dialogs.h"
 #include "platform/qt/fonts.h"
 #include "platform/qt/help_viewer.h"
@@ -43,10 +44,8 @@ EditorWindows::EditorWindows() : hpsedit(std::make_unique<Hpsedit>())
 EditorWindows::~EditorWindows()
 {
     switchableWindows() = {};
-    commandEvents() = {};
     sessionSteps() = {};
     editform.reset();
-    documentEvents() = {};
 }
 
 void EditorWindows::start(const std::string &pageFile) { startSession(pageFile); }
@@ -54,19 +53,20 @@ void EditorWindows::start(const std::string &pageFile) { startSession(pageFile);
 void EditorWindows::connectCommands()
 {
     DocumentEvents &document = documentEvents();
-    document.objectCount = document.objectRemoved = [this] { hpsedit->refreshCommands(); };
-    document.fileChanged = [this] { hpsedit->refreshFile(); };
+    connections.add(document.objectCount, [this] { hpsedit->refreshCommands(); });
+    connections.add(document.objectRemoved, [this] { hpsedit->refreshCommands(); });
+    connections.add(document.fileChanged, [this] { hpsedit->refreshFile(); });
     CommandEvents &commands = commandEvents();
-    commands.closeMain = [this] { hpsedit->close(); };
-    commands.marksChanged = [this] { hpsedit->refreshCommands(); };
-    commands.showMockToolbar = [this](bool shown) {
+    connections.add(commands.closeMain, [this] { hpsedit->close(); });
+    connections.add(commands.marksChanged, [this] { hpsedit->refreshCommands(); });
+    connections.add(commands.showMockToolbar, [this](bool shown) {
         if (editform)
             editform->showMockToolbar(shown);
-    };
-    commands.showStatusPanel = [this](bool shown) {
+    });
+    connections.add(commands.showStatusPanel, [this](bool shown) {
         if (editform)
             editform->showStatusPanel(shown);
-    };
+    });
 }
 
 void EditorWindows::connectSession()
@@ -123,13 +123,14 @@ void EditorWindows::loadCanvas()
 void installDesktop()
 {
     QApplication::setWindowIcon(programIcon());
+    setEventLoop([](Job job) { QMetaObject::invokeMethod(qApp, std::move(job), Qt::QueuedConnection); });
     registerFontSubstitutions();
     installPictureLoader();
     installMultimedia();
     installHelp();
     installAsking([]() -> QWidget * { return nullptr; });
     asking().askText = showInput;
-    LaterCommands &commands = laterCommands();
+    RoomCommands &commands = roomCommands();
     commands.showDirectory = showDirectory;
     commands.showObjectList = showObjectList;
     commands.about = showAbout;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/event.h"
+
 #include <functional>
 #include <memory>
 #include <string>
@@ -31,6 +33,7 @@ private:
     void connectSession();
     void connectWindows();
 
+    EventConnections connections;
     std::unique_ptr<Hpsedit> hpsedit;
     std::unique_ptr<Editform> editform;
 };

@@ -15,9 +15,9 @@ class CanvasPage : public FreshPage {
 protected:
     CanvasPage() : FreshPage(640, 480)
     {
-        documentEvents().objectRemoving = objectLeavesCanvas;
-        documentEvents().pageReset = resetCanvas;
-        documentEvents().edited = [this] { ++edits; };
+        documentEvents().objectRemoving.listen(objectLeavesCanvas);
+        documentEvents().pageReset.listen(resetCanvas);
+        documentEvents().edited.listen([this](std::string_view) { ++edits; });
         listen();
     }
     ~CanvasPage() override
@@ -60,18 +60,18 @@ private:
     {
         CanvasEvents &events = canvasEvents();
         events = {};
-        events.bringToFront = [this](std::int16_t index) { fronted.push_back(index); };
-        events.showTrackers = [this](const Rect &r) { trackers = r; };
-        events.hideTrackers = [this] { trackers.reset(); };
-        events.placeFrameMarkers = [this](std::int16_t s, const Rect &r) { markers[s] = r; };
-        events.hideFrameMarkers = [this](std::int16_t s) { markers.erase(s); };
-        events.drawOutline = [this](const Rect &r) { outline = r; };
-        events.hideOutline = [this] { outline.reset(); };
-        events.showGroupFrame = [this](const Rect &r) { groupFrame = r; };
-        events.hideGroupFrame = [this] { groupFrame.reset(); };
-        events.repaintUnder = [this](std::int16_t index) { repainted.push_back(index); };
-        events.emptyVisual = [this](std::int16_t index) { emptied.push_back(index); };
-        events.restoreVisual = [this](std::int16_t index) { restored.push_back(index); };
+        events.bringToFront.listen([this](std::int16_t index) { fronted.push_back(index); });
+        events.showTrackers.listen([this](const Rect &r) { trackers = r; });
+        events.hideTrackers.listen([this] { trackers.reset(); });
+        events.placeFrameMarkers.listen([this](std::int16_t s, const Rect &r) { markers[s] = r; });
+        events.hideFrameMarkers.listen([this](std::int16_t s) { markers.erase(s); });
+        events.drawOutline.listen([this](const Rect &r) { outline = r; });
+        events.hideOutline.listen([this] { outline.reset(); });
+        events.showGroupFrame.listen([this](const Rect &r) { groupFrame = r; });
+        events.hideGroupFrame.listen([this] { groupFrame.reset(); });
+        events.repaintUnder.listen([this](std::int16_t index) { repainted.push_back(index); });
+        events.emptyVisual.listen([this](std::int16_t index) { emptied.push_back(index); });
+        events.restoreVisual.listen([this](std::int16_t index) { restored.push_back(index); });
     }
 };
 

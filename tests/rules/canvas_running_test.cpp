@@ -13,14 +13,14 @@ protected:
     CanvasRunning()
     {
         clearRunning();
-        documentEvents().objectCreated = objectEntersCanvas;
-        runningEvents().enableTimer = [this](bool on) { timer = on; };
+        documentEvents().objectCreated.listen(objectEntersCanvas);
+        runningEvents().enableTimer.listen([this](bool on) { timer = on; });
         runningEvents().tickerTextWidth = [](std::int16_t) { return 120; };
         runningEvents().tickerInnerWidth = [](std::int16_t) { return 600; };
-        runningEvents().tickerMoved = [this](std::int16_t, int left) { tickerLeft = left; };
-        runningEvents().showFrame = [this](std::int16_t, int number) { shown.push_back(number); };
-        playerEvents().previewBegins = [this](std::int16_t) { preview = true; };
-        playerEvents().previewEnds = [this](std::int16_t) { preview = false; };
+        runningEvents().tickerMoved.listen([this](std::int16_t, int left) { tickerLeft = left; });
+        runningEvents().showFrame.listen([this](std::int16_t, int number) { shown.push_back(number); });
+        playerEvents().previewBegins.listen([this](std::int16_t) { preview = true; });
+        playerEvents().previewEnds.listen([this](std::int16_t) { preview = false; });
         multimediaCommand() = [this](const std::string &command) {
             commands.push_back(command);
             return 0;

@@ -24,7 +24,7 @@ TEST_F(Objects, DeletingMovesTheCurrentObject)
     for (int i = 0; i < 5; ++i)
         addObject(Kind::Label);
     int cleared = 0;
-    documentEvents().currentCleared = [&] { ++cleared; };
+    documentEvents().currentCleared.listen([&] { ++cleared; });
     editing().curobj = 4;
     deleteObject(2);
     EXPECT_EQ(editing().curobj, 3);

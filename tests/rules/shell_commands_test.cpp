@@ -11,7 +11,7 @@ class ShellCommands : public FreshPage {
 protected:
     ShellCommands()
     {
-        documentEvents().edited = [this] { ++edits; };
+        documentEvents().edited.listen([this](std::string_view) { ++edits; });
     }
 
     void add(int count)

@@ -29,12 +29,12 @@ protected:
         };
         steps.showCanvas = [this] { log += "show "; };
         steps.unloadCanvas = [this] { log += "unload "; };
-        laterCommands().toggleOdbc = [this](bool on) { log += on ? "odbc " : "noodbc "; };
+        roomCommands().toggleOdbc = [this](bool on) { log += on ? "odbc " : "noodbc "; };
     }
     ~ShellSession() override
     {
         sessionSteps() = {};
-        laterCommands() = {};
+        roomCommands() = {};
         multimediaCommand() = {};
         helpCommand() = {};
         odbcToolbarClosed();

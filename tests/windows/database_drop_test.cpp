@@ -14,7 +14,7 @@ protected:
         form.commands.fieldDropped = [](QPoint at, const QByteArray &payload) {
             dropField({at.x(), at.y()}, payload.toStdString());
         };
-        documentEvents().edited = [this] { ++edits; };
+        documentEvents().edited.listen([this](std::string_view) { ++edits; });
     }
     ~DroppedField() override { connection() = {}; }
 

@@ -24,7 +24,7 @@ class ShellDialogs : public FreshPage {
 protected:
     ~ShellDialogs() override
     {
-        laterCommands() = {};
+        roomCommands() = {};
         switchableWindows() = {};
     }
 
@@ -97,7 +97,7 @@ TEST_F(ShellDialogs, ObjectListChoosesOpensAndDeletes)
     switchableWindows() = [&main]() -> std::vector<QWidget *> {
         return openObjectList() ? std::vector<QWidget *>{openObjectList()} : std::vector<QWidget *>{&main};
     };
-    laterCommands().openObjectProperties = [] { page().objects[30].ptop = 77; };
+    roomCommands().openObjectProperties = [] { page().objects[30].ptop = 77; };
     showObjectList();
     Objlist *list = openObjectList();
     ASSERT_NE(list, nullptr);

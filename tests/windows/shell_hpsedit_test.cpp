@@ -27,14 +27,14 @@ protected:
     {
         setProfileFolder((drive.root() / "profile").string());
         drive.add("PAGES/R&D.ODS", samples::sample("record.ods"));
-        laterCommands().showObjectList = laterCommands().openObjectProperties = [this] { ++laterCalls; };
+        roomCommands().showObjectList = roomCommands().openObjectProperties = [this] { ++laterCalls; };
         windows = std::make_unique<EditorWindows>();
         windows->start("C:\\PAGES\\R&D.ODS");
     }
     ~ShellMainWindow() override
     {
         windows.reset();
-        laterCommands() = {};
+        roomCommands() = {};
         setProfileFolder("/dev/null/nothing");
     }
 
