@@ -1,6 +1,6 @@
 #include "platform/codepage.h"
 #include "platform/host_files.h"
-#include "tools/json_page.h"
+#include "json/page.h"
 #include "tools/odspage_commands.h"
 
 #include <memory>

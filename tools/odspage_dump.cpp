@@ -2,7 +2,7 @@
 #include "document/object_file.h"
 #include "document/page_file.h"
 #include "platform/text.h"
-#include "tools/json_page.h"
+#include "json/page.h"
 #include "tools/odspage_commands.h"
 
 #include <memory>

@@ -13,6 +13,7 @@
 #include "platform/qt/fonts.h"
 #include "platform/qt/help_viewer.h"
 #include "platform/qt/qt_asking.h"
+#include "platform/qt/qt_clipboard.h"
 #include "platform/qt/qt_multimedia.h"
 #include "platform/qt/qt_pictures.h"
 #include "platform/qt/window_switch.h"
@@ -127,6 +128,7 @@ void installDesktop()
     registerFontSubstitutions();
     installPictureLoader();
     installMultimedia();
+    installClipboard();
     installHelp();
     installAsking([]() -> QWidget * { return nullptr; });
     asking().askText = showInput;

@@ -1,5 +1,5 @@
 #include "tests/rules/odspage_files.h"
-#include "tools/json_action.h"
+#include "json/action.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "tests/support/samples.h"
-#include "tools/json_page.h"
+#include "json/page.h"
 #include "tools/odspage_commands.h"
 
 #include <sstream>

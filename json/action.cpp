@@ -1,8 +1,8 @@
-#include "tools/json_action.h"
+#include "json/action.h"
 
 #include "actions/action.h"
-#include "tools/json_reader.h"
-#include "tools/json_writer.h"
+#include "json/reader.h"
+#include "json/writer.h"
 
 namespace corvanta {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/codepage.h"
-#include "tools/json_action.h"
+#include "json/action.h"
 
 #include <vector>
 

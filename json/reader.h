@@ -1,7 +1,7 @@
 #pragma once
 
 #include "document/page.h"
-#include "tools/json_action.h"
+#include "json/action.h"
 
 #include <vector>
 

@@ -1,4 +1,4 @@
-#include "tools/json_values.h"
+#include "json/values.h"
 
 #include "document/page.h"
 #include "platform/codepage.h"

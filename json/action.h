@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tools/json_values.h"
+#include "json/values.h"
 
 // Action texts in JSON: the code, the kind's parameters (or a list's entries) and, where these alone would
 // not give the same bytes back, the whole text as hexadecimal "raw". What "raw" says holds.

@@ -1,11 +1,11 @@
-#include "tools/json_page.h"
+#include "json/page.h"
 
 #include "document/object_file.h"
 #include "document/objects.h"
 #include "document/page_file.h"
 #include "document/record_fields.h"
-#include "tools/json_reader.h"
-#include "tools/json_writer.h"
+#include "json/reader.h"
+#include "json/writer.h"
 
 #include <algorithm>
 
@@ -73,24 +73,24 @@ void refuseColumnsWithoutGrid(const JsonReader &reader, const Page &p)
         reader.refuse("gridcolumns", "no Grid object is there to hold the columns");
 }
 
-std::string objectFileFromJson(JsonReader &reader)
+Page objectFromJson(JsonReader &reader)
 {
     Page p;
     reader.int16("pgversion", p.pgversion);
     readGridColumns(reader, p);
     reader.group("object", [&](JsonReader &object) { readObject(object, p); });
     refuseColumnsWithoutGrid(reader, p);
-    return objectFileText(p, 0);
+    return p;
 }
 
-std::string pageFileFromJson(JsonReader &reader)
+Page wholePageFromJson(JsonReader &reader)
 {
     Page p;
     headerFields(reader, p);
     readGridColumns(reader, p);
     reader.items("objects", fileLimit / smallestObject, [&](JsonReader &object) { readObject(object, p); });
     refuseColumnsWithoutGrid(reader, p);
-    return serialisePage(p);
+    return p;
 }
 
 } // namespace
@@ -118,11 +118,18 @@ Json objectFileJson(const Page &p, std::int16_t version)
     return std::move(writer.out);
 }
 
-std::string fileFromJson(const Json &json)
+Page pageFromJson(const Json &json)
 {
     JsonReader reader(json, "$");
-    std::string bytes = reader.has("object") ? objectFileFromJson(reader) : pageFileFromJson(reader);
+    Page p = reader.has("object") ? objectFromJson(reader) : wholePageFromJson(reader);
     reader.finish();
+    return p;
+}
+
+std::string fileFromJson(const Json &json)
+{
+    const Page p = pageFromJson(json);
+    std::string bytes = json.contains("object") ? objectFileText(p, 0) : serialisePage(p);
     if (bytes.size() > fileLimit)
         throw JsonError("$", std::to_string(bytes.size()) + " bytes are more than the " + std::to_string(fileLimit) +
                                  " of a file");

@@ -1,4 +1,4 @@
-#include "tools/json_reader.h"
+#include "json/reader.h"
 
 #include <algorithm>
 
