@@ -8,6 +8,12 @@ std::function<void(HelpCommand, long)> &helpCommand()
     return command;
 }
 
+std::function<void(const std::string &)> &helpPage()
+{
+    static std::function<void(const std::string &)> page;
+    return page;
+}
+
 void showHelp(HelpCommand command, long context)
 {
     if (helpCommand())

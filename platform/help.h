@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 namespace corvanta {
 
@@ -11,5 +12,8 @@ enum class HelpCommand { Contents, Search, Context, Quit };
 std::function<void(HelpCommand command, long context)> &helpCommand();
 
 void showHelp(HelpCommand command, long context = 0);
+
+// One page of the help, with an anchor where one is wanted ("buttons.html#caption"). Empty without a desktop.
+std::function<void(const std::string &page)> &helpPage();
 
 } // namespace corvanta

@@ -2,6 +2,7 @@
 
 #include "platform/asking.h"
 #include "platform/help.h"
+#include "platform/qt/help_search.h"
 #include "platform/qt/text.h"
 
 #include <QAction>
@@ -15,7 +16,9 @@
 #include <QHelpIndexWidget>
 #include <QHelpLink>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMainWindow>
 #include <QPointer>
 #include <QSplitter>
@@ -87,6 +90,7 @@ public:
     bool open() { return engine.setupData(); }
     QString error() const { return engine.error(); }
     void run(HelpCommand command, long context);
+    void showPage(const QString &name); // of the collection, with an anchor ("buttons.html#caption")
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
@@ -94,6 +98,7 @@ protected:
 private:
     QWidget *contentsTab();
     QWidget *indexTab();
+    void listHits(const QString &words);
     void addAction(QToolBar &bar, const char *name, const QString &text, QStyle::StandardPixmap icon,
                    const QList<QKeySequence> &keys, const std::function<void()> &triggered);
     void addNavigation();
@@ -106,10 +111,13 @@ private:
     HelpBrowser *browser;
     QTabWidget *tabs;
     QLineEdit *search = nullptr;
+    HelpSearch pages;
+    QLabel *hitsLabel = nullptr;
+    QListWidget *hits = nullptr;
 };
 
 HelpViewer::HelpViewer(const QString &collection)
-    : engine(collection), browser(new HelpBrowser(engine, this)), tabs(new QTabWidget(this))
+    : engine(collection), browser(new HelpBrowser(engine, this)), tabs(new QTabWidget(this)), pages(engine)
 {
     engine.setReadOnly(true);
     setObjectName(QStringLiteral("helpviewer"));
@@ -158,11 +166,46 @@ QWidget *HelpViewer::indexTab()
     connect(keywords, &QHelpIndexWidget::documentActivated, this, [this](const QHelpLink &link) { showUrl(link.url); });
     connect(engine.indexModel(), &QHelpIndexModel::indexCreated, search,
             [this, keywords] { keywords->filterIndices(search->text()); });
+    hitsLabel = new QLabel;
+    hitsLabel->setObjectName(QStringLiteral("helphitslabel"));
+    hits = new QListWidget;
+    hits->setObjectName(QStringLiteral("helphits"));
+    hits->setAccessibleName(QStringLiteral("Pages with these words"));
+    const auto open = [this](const QListWidgetItem *item) { showUrl(item->data(Qt::UserRole).toUrl()); };
+    connect(hits, &QListWidget::itemClicked, this, open);
+    connect(hits, &QListWidget::itemActivated, this, open);
+    connect(search, &QLineEdit::textChanged, this, [this](const QString &words) { listHits(words); });
+    listHits({});
     auto *tab = new QWidget;
     auto *column = new QVBoxLayout(tab);
     column->addWidget(search);
     column->addWidget(keywords, 1);
+    column->addWidget(hitsLabel);
+    column->addWidget(hits, 1);
     return tab;
+}
+
+// The words are looked for in all pages, beside the keywords that begin with them.
+void HelpViewer::listHits(const QString &words)
+{
+    hits->clear();
+    const bool any = !words.trimmed().isEmpty();
+    for (const HelpHit &hit : any ? pages.find(words) : std::vector<HelpHit>()) {
+        auto *item = new QListWidgetItem(hit.title, hits);
+        item->setData(Qt::UserRole, hit.page);
+    }
+    hitsLabel->setText(!any                 ? QStringLiteral("All pages are searched for what you type.")
+                       : hits->count() == 0 ? QStringLiteral("No page holds these words.")
+                                            : QStringLiteral("Pages with these words:"));
+}
+
+void HelpViewer::showPage(const QString &name)
+{
+    const QUrl page = contentsPage.resolved(QUrl(name));
+    showUrl(engine.fileData(page.adjusted(QUrl::RemoveFragment)).isEmpty() ? contentsPage : page);
+    tabs->setCurrentIndex(0);
+    bringUp();
+    browser->setFocus();
 }
 
 void HelpViewer::addAction(QToolBar &bar, const char *name, const QString &text, QStyle::StandardPixmap icon,
@@ -271,13 +314,21 @@ QString helpCollection()
 
 void installHelp(const QString &collection)
 {
-    helpCommand() = [collection, viewer = QPointer<HelpViewer>()](HelpCommand command, long context) mutable {
+    const auto viewer = std::make_shared<QPointer<HelpViewer>>();
+    const auto opened = [collection, viewer] {
+        if (!*viewer)
+            *viewer = openViewer(collection);
+        return viewer->data();
+    };
+    helpCommand() = [viewer, opened](HelpCommand command, long context) {
         if (command == HelpCommand::Quit)
-            return delete viewer;
-        if (!viewer)
-            viewer = openViewer(collection);
-        if (viewer)
-            viewer->run(command, context);
+            delete viewer->data();
+        else if (HelpViewer *window = opened())
+            window->run(command, context);
+    };
+    helpPage() = [opened](const std::string &page) {
+        if (HelpViewer *window = opened())
+            window->showPage(QString::fromStdString(page));
     };
 }
 

@@ -19,6 +19,7 @@
 #include "platform/qt/window_switch.h"
 #include "shell/commands.h"
 #include "shell/session.h"
+#include "shell/ui/help_key.h"
 #include "shell/ui/hpeabout.h"
 #include "shell/ui/hpsdir.h"
 #include "shell/ui/hpsedit.h"
@@ -130,6 +131,7 @@ void installDesktop()
     installMultimedia();
     installClipboard();
     installHelp();
+    installHelpKey();
     installAsking([]() -> QWidget * { return nullptr; });
     asking().askText = showInput;
     RoomCommands &commands = roomCommands();

@@ -1,10 +1,15 @@
 #include "platform/help.h"
 #include "platform/qt/help_viewer.h"
 #include "shell/menu_table.h"
+#include "shell/ui/help_key.h"
 #include "tests/support/modal_driver.h"
 
 #include <QDialog>
+#include <QGroupBox>
 #include <QHelpEngineCore>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QRegularExpression>
 #include <QTest>
 #include <QTextBrowser>
@@ -80,6 +85,45 @@ TEST_F(HelpWindow, CanBeUsedOverAModalDialogAndOutlivesIt)
     EXPECT_TRUE(viewer()->isVisible());
 }
 
+TEST_F(HelpWindow, SearchFindsWordsOfEveryPage)
+{
+    const auto hitsFor = [](const QString &words) {
+        part<QLineEdit>("helpsearch").setText(words);
+        QStringList titles;
+        auto &list = part<QListWidget>("helphits");
+        for (int i = 0; i < list.count(); ++i)
+            titles << list.item(i)->text();
+        return titles;
+    };
+    showHelp(HelpCommand::Search);
+    EXPECT_EQ(hitsFor("aligning").front(), "Moving, resizing and aligning");
+    EXPECT_TRUE(hitsFor("negative number").contains("Messages and what to do"));
+    EXPECT_TRUE(hitsFor("").isEmpty());
+    EXPECT_TRUE(hitsFor("crocodile").isEmpty());
+    EXPECT_EQ(part<QLabel>("helphitslabel").text(), "No page holds these words.");
+    auto &list = part<QListWidget>("helphits");
+    part<QLineEdit>("helpsearch").setText("bevel");
+    emit list.itemActivated(list.item(0));
+    EXPECT_EQ(shownPage(), "buttons.html");
+}
+
+TEST_F(HelpWindow, TheHelpKeyShowsThePageAboutTheFocus)
+{
+    QDialog dialog;
+    dialog.setObjectName("lblobj");
+    auto *group = new QGroupBox(&dialog);
+    group->setObjectName("standard");
+    QLineEdit inGroup(group), inDialog(&dialog);
+    QWidget elsewhere;
+    EXPECT_EQ(helpPageOf(&inGroup), "object-properties.html#standard");
+    EXPECT_EQ(helpPageOf(&inDialog), "buttons.html#label");
+    EXPECT_EQ(helpPageOf(&elsewhere), "index.html");
+    installHelpKey();
+    dialog.show();
+    QTest::keyClick(&inGroup, Qt::Key_F1);
+    EXPECT_EQ(shownPage(), "object-properties.html");
+}
+
 TEST(HelpPages, LinksAndPicturesResolve)
 {
     QHelpEngineCore engine(helpCollection());
@@ -97,6 +141,10 @@ TEST(HelpPages, LinksAndPicturesResolve)
             EXPECT_TRUE(!text.isEmpty() && (!url.hasFragment() || text.contains(place)))
                 << page.fileName().toStdString() << ": " << match.captured(1).toStdString();
         }
+    for (const std::string &page : helpPages()) {
+        const QUrl url = pages.front().resolved(QUrl(QString::fromStdString(page)));
+        EXPECT_TRUE(textOf(url).contains(url.hasFragment() ? "name=\"" + url.fragment() + '"' : "<h1>")) << page;
+    }
 }
 
 } // namespace corvanta
