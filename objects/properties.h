@@ -36,12 +36,16 @@ PropertyFields LoadProperties(std::int16_t index);
 // What a confirmed dialog comes to. A refused one stays open; focus names the control that gets the focus with
 // all its text selected, or is empty.
 struct Confirmation {
-    bool stored = false;
+    bool stored = false; // of the checks alone: passed
     std::string focus;
 };
 
 // Checks the fields in the kind's order, telling what is wrong, and writes them back.
 Confirmation ConfirmProperties(std::int16_t index, const PropertyFields &fields);
+
+// The two halves of it: the checks alone (an object of an unknown kind is refused), and writing back what they passed.
+Confirmation CheckProperties(std::int16_t index, const PropertyFields &fields);
+void StoreProperties(std::int16_t index, const PropertyFields &fields);
 
 // Whether a kind's dialog shows the data column, the input type and the frame "Auto SQL": not on pages of the type
 // "Menu", but for a Combo Box.

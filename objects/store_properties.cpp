@@ -204,14 +204,19 @@ void storeAnimation(const Target &t, const PropertyFields &f)
 
 } // namespace
 
-Confirmation ConfirmProperties(std::int16_t index, const PropertyFields &fields)
+Confirmation CheckProperties(std::int16_t index, const PropertyFields &fields)
 {
-    if (!hasObject(page(), index))
+    const auto kind =
+        hasObject(page(), index) ? kindOf(page().objects[static_cast<std::size_t>(index)].kind) : std::nullopt;
+    if (!kind)
         return {};
+    const Check check = checkFields(*kind, fields);
+    return {check.passed, check.focus};
+}
+
+void StoreProperties(std::int16_t index, const PropertyFields &fields)
+{
     const Target t = targetOf(index);
-    const Check check = checkFields(t.kind, fields);
-    if (!check.passed)
-        return {false, check.focus};
     if (t.kind == Kind::Animation) {
         storeAnimation(t, fields);
     } else {
@@ -220,8 +225,16 @@ Confirmation ConfirmProperties(std::int16_t index, const PropertyFields &fields)
         storeKindFields(t, fields);
     }
     LoadObjectFiles(index);
-    pageEdited(objectName(static_cast<std::int16_t>(t.kind)) + " properties");
-    return {true, ""};
+}
+
+Confirmation ConfirmProperties(std::int16_t index, const PropertyFields &fields)
+{
+    const Confirmation check = CheckProperties(index, fields);
+    if (!check.stored)
+        return check;
+    StoreProperties(index, fields);
+    pageEdited(objectName(page().objects[static_cast<std::size_t>(index)].kind) + " properties");
+    return check;
 }
 
 } // namespace corvanta

@@ -12,6 +12,8 @@ struct FontBlock {
     std::string FontName = "MS Sans Serif"; // bytes of the code page
     float FontSize = 8.25F;                 // points
     bool FontStrikethru = false, FontUnderline = false;
+
+    bool operator==(const FontBlock &) const = default;
 };
 
 } // namespace corvanta
