@@ -118,6 +118,13 @@ void stopRunning(std::int16_t index)
     std::erase(running().list, RunningPair{page().objects[i].kind, page().ctlindex[i]});
 }
 
+void stopRunningWithoutObjects()
+{
+    std::erase_if(running().list, [](const RunningPair &pair) {
+        return findObjectByControl(page(), static_cast<Kind>(pair.kind), pair.element) == noObject;
+    });
+}
+
 void clearRunning() { running().list.clear(); }
 
 void startTicker(std::int16_t element)

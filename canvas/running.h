@@ -53,6 +53,7 @@ RunningState &running();
 void startRunning(Kind kind, std::int16_t element);
 void stopRunning(std::int16_t index); // of an object
 void clearRunning();
+void stopRunningWithoutObjects(); // after undo: elements that no object has any more
 
 // Starts a ticker's text at its frame's left edge.
 void startTicker(std::int16_t element);

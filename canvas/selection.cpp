@@ -74,6 +74,15 @@ void clearMultiSelection()
     editing().multcount = 0;
 }
 
+void selectAllObjects()
+{
+    hideTrackers();
+    for (std::int16_t i = 0; i < objectCount(page()); ++i)
+        addToMultiSelection(i);
+    if (!hasCurrentObject())
+        setCurrentObject(0);
+}
+
 void placeFrameMarkers(std::int16_t index)
 {
     if (inMultiSelection(index))

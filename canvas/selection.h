@@ -24,6 +24,8 @@ void addToMultiSelection(std::int16_t index);
 // Frees the object's slot; multcount stays.
 void removeFromMultiSelection(std::int16_t index);
 void clearMultiSelection();
+// All objects become the multi-selection; the first is current when none was.
+void selectAllObjects();
 
 // The markers of a member round its rectangle.
 void placeFrameMarkers(std::int16_t index);

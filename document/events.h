@@ -7,6 +7,8 @@
 
 namespace corvanta {
 
+struct Page;
+
 // What the process-wide document tells the rooms above it.
 struct DocumentEvents {
     Event<> showCanvas;                 // the first new page: the canvas window is to be shown
@@ -19,8 +21,12 @@ struct DocumentEvents {
     Event<> pageLayout;                 // page-wide fields are to be applied to the canvas
     Event<> pageChanged;                // the page picture is to be painted again
     Event<> pageReset;                  // all objects are gone: selection and running list too
-    Event<> fileChanged;                // filetag has changed
-    Event<std::string_view> edited;     // an act of the user's is complete: its name
+    // Undo or redo has put another page in the place of the given one; the selection is the one that belongs to it.
+    Event<const Page &> pageRestored;
+    Event<> orderChanged;           // objects have other places in the table
+    Event<std::string_view> notice; // a short text for the status panel
+    Event<> fileChanged;            // filetag has changed
+    Event<std::string_view> edited; // an act of the user's is complete: its name
 };
 
 DocumentEvents &documentEvents();

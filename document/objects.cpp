@@ -8,6 +8,7 @@
 #include "platform/profile.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace corvanta {
 
@@ -262,6 +263,29 @@ void setObjectGeometry(std::int16_t index, std::int16_t top, std::int16_t left, 
         placeElement(*e, o);
     editing().pagedirty = true;
     documentEvents().objectChanged(index);
+}
+
+bool moveInTable(const std::vector<std::int16_t> &indices, bool toEnd)
+{
+    Page &p = page();
+    std::vector<std::int16_t> order(static_cast<std::size_t>(objectCount(p)));
+    std::iota(order.begin(), order.end(), std::int16_t{0});
+    const auto before = order;
+    std::ranges::stable_partition(
+        order, [&](std::int16_t index) { return (std::ranges::find(indices, index) != indices.end()) != toEnd; });
+    if (order == before)
+        return false;
+    const auto objects = p.objects;
+    const auto ctlindex = p.ctlindex;
+    for (std::size_t i = 0; i < order.size(); ++i) {
+        p.objects[i] = objects[static_cast<std::size_t>(order[i])];
+        p.ctlindex[i] = ctlindex[static_cast<std::size_t>(order[i])];
+    }
+    const auto current = std::ranges::find(order, editing().curobj);
+    if (current != order.end())
+        editing().curobj = static_cast<std::int16_t>(current - order.begin());
+    documentEvents().orderChanged();
+    return true;
 }
 
 std::int16_t findObjectByControl(const Page &p, Kind kind, std::int16_t element)

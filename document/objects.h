@@ -3,6 +3,7 @@
 #include "document/page.h"
 
 #include <string_view>
+#include <vector>
 
 // Objects of the page: they enter and leave the table here only.
 namespace corvanta {
@@ -33,6 +34,10 @@ void clearObjects();
 // Writes the geometry (pixels) into the record and its element; sets pagedirty.
 void setObjectGeometry(std::int16_t index, std::int16_t top, std::int16_t left, std::int16_t height,
                        std::int16_t width);
+
+// Moves objects of the process-wide page to the end of the table or to its front; they keep their order among
+// themselves, and curobj stays with its object. False when they stand there already.
+bool moveInTable(const std::vector<std::int16_t> &indices, bool toEnd);
 
 // The first object of the kind whose ctlindex is the element number; noObject when none.
 std::int16_t findObjectByControl(const Page &p, Kind kind, std::int16_t element);

@@ -2,6 +2,7 @@
 
 #include "document/byte_codec.h"
 #include "document/events.h"
+#include "document/history.h"
 #include "document/media.h"
 #include "document/objects.h"
 #include "platform/asking.h"
@@ -35,26 +36,13 @@ std::string directoryOfFile(const std::string &path)
     return directory.empty() ? withTrailingBackslash(currentDirectory()) : directory;
 }
 
-// What saving the process-wide page writes. Until the first edit a page without a size stays one, also while the canvas
-// shows it at the window's size.
-std::string pageText()
-{
-    const auto &own = editing().lentSize;
-    if (!own || editing().pagedirty)
-        return serialisePage(page());
-    const auto shown = std::pair(page().bkgwd, page().bkght);
-    std::tie(page().bkgwd, page().bkght) = *own;
-    std::string text = serialisePage(page());
-    std::tie(page().bkgwd, page().bkght) = shown;
-    return text;
-}
-
 // An edited page has the size that it was shown with from now on.
 void markSaved()
 {
     if (editing().pagedirty)
         editing().lentSize.reset();
     editing().pagedirty = false;
+    markHistorySaved();
 }
 
 FileDialog savePageDialog()
@@ -100,6 +88,18 @@ std::string serialisePage(const Page &p)
     std::string text = encodeString(header.out);
     for (std::int16_t i = 0; i < objectCount(p); ++i)
         text += serialiseObject(p, i);
+    return text;
+}
+
+std::string pageText()
+{
+    const auto &own = editing().lentSize;
+    if (!own || editing().pagedirty)
+        return serialisePage(page());
+    const auto shown = std::pair(page().bkgwd, page().bkght);
+    std::tie(page().bkgwd, page().bkght) = *own;
+    std::string text = serialisePage(page());
+    std::tie(page().bkgwd, page().bkght) = shown;
     return text;
 }
 
@@ -154,6 +154,7 @@ void newPage()
     documentEvents().pageLayout();
     documentEvents().objectCount();
     editing().pagedirty = false;
+    resetHistory();
 }
 
 void openPage(const std::string &path)
@@ -163,6 +164,7 @@ void openPage(const std::string &path)
     parsePage(page(), readWholeFile(path, fileLimit));
     loadPageMedia();
     editing().curdir = directoryOfFile(path);
+    resetHistory();
 }
 
 bool savePage()

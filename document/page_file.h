@@ -14,6 +14,10 @@ std::string serialiseObject(const Page &p, std::int16_t index);
 // The bytes of a page file.
 std::string serialisePage(const Page &p);
 
+// What saving the process-wide page writes. Until the first edit a page without a size stays one, also while the canvas
+// shows it at the window's size.
+std::string pageText();
+
 // Fills a page from the bytes of a page file; an empty text does nothing. What is missing reads as 0 or
 // empty. The page is expected to be new.
 void parsePage(Page &p, std::string_view text);

@@ -3,11 +3,13 @@
 #include "canvas/gestures.h"
 #include "canvas/selection.h"
 #include "document/events.h"
+#include "document/history.h"
 #include "document/kinds.h"
 #include "document/object_file.h"
 #include "document/objects.h"
 #include "document/page_file.h"
 #include "platform/asking.h"
+#include "shell/clipboard.h"
 
 #include <algorithm>
 
@@ -37,6 +39,21 @@ void chooseAndOpenPage()
     const auto path = asking().fileDialog(dialog);
     if (path && !path->empty())
         openPage(*path);
+}
+
+// A gesture that is going on is given up first.
+void takeBack(const std::string &act, const char *said, bool (*step)())
+{
+    cancelGesture();
+    if (step())
+        documentEvents().notice(said + act);
+}
+
+void restack(bool toFront)
+{
+    const std::vector<std::int16_t> chosen = chosenObjects();
+    if (!chosen.empty() && moveInTable(chosen, toFront))
+        pageEdited(toFront ? "Bring to front" : "Send to back");
 }
 
 void align(AlignMode mode) { alignSelection(static_cast<std::int16_t>(mode)); }
@@ -128,8 +145,29 @@ bool commandEnabled(Command command)
     case Command::HelpContents: return bool(rooms.helpContents);
     case Command::HelpSearch: return bool(rooms.helpSearch);
     case Command::About: return bool(rooms.about);
+    case Command::Undo: return !undoName().empty();
+    case Command::Redo: return !redoName().empty();
+    case Command::Cut:
+    case Command::Copy:
+    case Command::DuplicateObjects:
+    case Command::BringToFront:
+    case Command::SendToBack: return !chosenObjects().empty();
+    case Command::Paste: return mayPaste();
+    case Command::SelectAll: return state.list;
+    case Command::SharedProperties: return rooms.openSharedProperties && chosenObjects().size() > 1;
+    case Command::AddKind: return true;
     }
     return false;
+}
+
+std::string commandCaption(Command command)
+{
+    switch (command) {
+    case Command::Undo: return undoName().empty() ? "&Undo" : "&Undo " + undoName();
+    case Command::Redo: return redoName().empty() ? "&Redo" : "&Redo " + redoName();
+    case Command::SharedProperties: return "Properties of " + std::to_string(chosenObjects().size()) + " Ob&jects...";
+    default: return {};
+    }
 }
 
 bool commandChecked(Command command)
@@ -145,6 +183,7 @@ void runCommand(Command command)
     switch (command) {
     case Command::None:
     case Command::Add:
+    case Command::AddKind:
     case Command::Align: break;
     case Command::New: startNewPage(); break;
     case Command::Open: chooseAndOpenPage(); break;
@@ -171,6 +210,16 @@ void runCommand(Command command)
     case Command::HelpContents: tell(rooms.helpContents); break;
     case Command::HelpSearch: tell(rooms.helpSearch); break;
     case Command::About: tell(rooms.about); break;
+    case Command::Undo: takeBack(undoName(), "Undone: ", undoEdit); break;
+    case Command::Redo: takeBack(redoName(), "Done again: ", redoEdit); break;
+    case Command::Cut: cutObjects(); break;
+    case Command::Copy: copyObjects(); break;
+    case Command::Paste: pasteObjects(); break;
+    case Command::DuplicateObjects: duplicateObjects(); break;
+    case Command::SelectAll: selectAllObjects(); break;
+    case Command::SharedProperties: tell(rooms.openSharedProperties); break;
+    case Command::BringToFront: restack(true); break;
+    case Command::SendToBack: restack(false); break;
     }
 }
 
@@ -205,8 +254,11 @@ void deleteSelection()
         deleteObject(editing().curobj);
     }
     const int deleted = before - objectCount(page());
-    if (deleted > 0)
-        pageEdited("Delete " + (one ? name : std::to_string(deleted) + (deleted == 1 ? " object" : " objects")));
+    if (deleted == 0)
+        return;
+    const std::string what = one ? name : std::to_string(deleted) + (deleted == 1 ? " object" : " objects");
+    pageEdited("Delete " + what);
+    documentEvents().notice("Deleted: " + what + ". Ctrl+Z brings it back.");
 }
 
 } // namespace corvanta

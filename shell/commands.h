@@ -4,6 +4,7 @@
 #include "shell/menu_table.h"
 
 #include <functional>
+#include <string>
 
 // What the main window's commands do on the process-wide page, and when they can be used.
 namespace corvanta {
@@ -20,6 +21,7 @@ struct RoomCommands {
     std::function<void()> playAnimation; // the current one
     std::function<void()> helpContents, helpSearch;
     std::function<void()> about;
+    std::function<void()> openSharedProperties; // of the multi-selection
 };
 
 RoomCommands &roomCommands();
@@ -60,6 +62,8 @@ ObjectCommandState objectCommandState();
 
 bool commandEnabled(Command command);
 bool commandChecked(Command command);
+// What a command is called at the moment, where that changes ("Undo Move"); else empty.
+std::string commandCaption(Command command);
 void runCommand(Command command);
 
 // Adds a new object of the kind whose item of the Add submenu has this index (from 1).

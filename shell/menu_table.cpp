@@ -47,6 +47,34 @@ constexpr MenuRow rows[] = {
     {"aboutmenu", "&About Corvanta Form Editor...", 0, Command::About, "helpmenu"},
 };
 
+constexpr MenuRow contextRows[] = {
+    {"cundo", "&Undo", 0, Command::Undo, ""},
+    {"credo", "&Redo", 0, Command::Redo, ""},
+    {"cdash1", "-", 0, Command::None, ""},
+    {"ccut", "Cu&t", 0, Command::Cut, ""},
+    {"ccopy", "&Copy", 0, Command::Copy, ""},
+    {"cpaste", "&Paste Here", 0, Command::Paste, ""},
+    {"cdupe", "D&uplicate In Place", 0, Command::Duplicate, ""},
+    {"cdelete", "&Delete", 0, Command::Delete, ""},
+    {"cdash2", "-", 0, Command::None, ""},
+    {"cfront", "Bring to &Front", 0, Command::BringToFront, ""},
+    {"cback", "Send to &Back", 0, Command::SendToBack, ""},
+    {"calign", "A&lign", 0, Command::Align, ""},
+    {"cleft", "Left", 0, Command::AlignLeft, "calign"},
+    {"cright", "Right", 0, Command::AlignRight, "calign"},
+    {"ctop", "Top", 0, Command::AlignTop, "calign"},
+    {"cbottom", "Bottom", 0, Command::AlignBottom, "calign"},
+    {"cdash3", "-", 0, Command::None, ""},
+    {"cadd", "&Add", 0, Command::AddKind, ""},
+    {"cload", "L&oad...", 0, Command::LoadObject, ""},
+    {"csave", "&Save...", 0, Command::SaveObject, ""},
+    {"canimate", "A&nimate", 0, Command::Animate, ""},
+    {"cdash4", "-", 0, Command::None, ""},
+    {"cprops", "Prop&erties...", 0, Command::ObjectProperties, ""},
+    {"cshared", "Properties of &Many...", 0, Command::SharedProperties, ""},
+    {"cpageprops", "Pa&ge Properties...", 0, Command::PageProperties, ""},
+};
+
 constexpr ToolbarRow toolbarRows[] = {
     {Command::Open, "Open Form"},
     {Command::Save, "Save Form"},
@@ -66,6 +94,8 @@ bool isSubmenu(const MenuRow &row)
     return std::ranges::any_of(
         rows, [&](const MenuRow &other) { return std::string_view(other.parent) == std::string_view(row.element); });
 }
+
+std::span<const MenuRow> contextTable() { return contextRows; }
 
 std::span<const ToolbarRow> toolbarTable() { return toolbarRows; }
 

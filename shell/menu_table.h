@@ -33,7 +33,19 @@ enum class Command {
     Delete,
     HelpContents,
     HelpSearch,
-    About
+    About,
+    // Not in the menus of the main window: reached by keys and by the canvas's context menu.
+    Undo,
+    Redo,
+    Cut,
+    Copy,
+    Paste,
+    DuplicateObjects,
+    SelectAll,
+    SharedProperties, // of two objects or more
+    BringToFront,
+    SendToBack,
+    AddKind // one item per kind; runs at the pointer
 };
 
 // A menu item. Rows stand in the order of the menus, a submenu before its items.
@@ -48,7 +60,10 @@ struct MenuRow {
 std::span<const MenuRow> menuTable();
 
 bool isSeparator(const MenuRow &row);
-bool isSubmenu(const MenuRow &row);
+bool isSubmenu(const MenuRow &row); // of the main window's menus
+
+// The canvas's context menu. The items of its Add submenu are the kinds.
+std::span<const MenuRow> contextTable();
 
 // The toolbar's buttons by their index.
 struct ToolbarRow {

@@ -23,6 +23,8 @@ struct EditformCommands {
     std::function<void()> currentChanged; // curobj was set: object commands may switch
     std::function<void()> closeRequested; // the user closed the canvas window
     std::function<void(QPoint, QByteArray)> fieldDropped; // a column: page point (pixels) and payload
+    std::function<void(std::int16_t, QPoint, QPoint)>
+        contextMenu; // object or noObject, page point, point of the screen
 };
 
 // Translates mouse and key events of the page area, the visuals and the tracker handles into the rules of

@@ -41,6 +41,7 @@ protected:
     void closeEvent(QCloseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
 
 private:
     bool isNormal() const; // neither minimised nor maximised
@@ -57,6 +58,7 @@ private:
     void listenToRunning();
     void createVisual(std::int16_t index);
     void objectChanged(std::int16_t index);
+    void pageRestored(const Page &before);
     void drop(QPoint at, const DragPayload &payload);
     void showStatus(std::int16_t pointed);
 

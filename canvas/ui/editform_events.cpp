@@ -7,6 +7,10 @@
 #include "document/events.h"
 #include "platform/qt/text.h"
 
+#include <QContextMenuEvent>
+
+#include <tuple>
+
 // What the canvas window hears of the document, of the canvas's rules and of what runs on the page.
 namespace corvanta {
 
@@ -49,6 +53,12 @@ void Editform::listenToDocument()
     });
     connections.add(document.pageLayout, [this] { applyPageLayout(); });
     connections.add(document.pageChanged, [this] { repaintPage(); });
+    connections.add(document.pageRestored, [this](const Page &before) { pageRestored(before); });
+    connections.add(document.orderChanged, [this] {
+        visuals.restack();
+        area->update();
+    });
+    connections.add(document.notice, [this](std::string_view text) { statusPanel->setStatus(toQString(text)); });
     connections.add(document.pageReset, [this] {
         resetCanvas();
         trackers.hideAll();
@@ -117,6 +127,24 @@ void Editform::createVisual(std::int16_t index)
     objectEntersCanvas(index);
 }
 
+// Undo: only what differs is made or painted again.
+void Editform::pageRestored(const Page &before)
+{
+    const auto lookOf = [](const Page &p) {
+        return std::tie(p.bkgcol, p.bkght, p.bkgwd, p.pgflags, p.pgcaption, p.background);
+    };
+    trackers.hideAll();
+    stopRunningWithoutObjects();
+    visuals.follow(before, [this](std::int16_t index) { createVisual(index); });
+    if (lookOf(before) != lookOf(page()))
+        applyPageLayout();
+    for (std::int16_t i = 0; i < objectCount(page()); ++i)
+        placeFrameMarkers(i);
+    if (editing().multcount == 0)
+        showTrackers();
+    canvasEvents().currentChanged();
+}
+
 void Editform::objectChanged(std::int16_t index)
 {
     visuals.refresh(index);
@@ -136,6 +164,23 @@ void Editform::drop(QPoint at, const DragPayload &payload)
         dropObject(*kind, {at.x(), at.y()});
     else if (payload.tag == "fld")
         tell(commands.fieldDropped, at, payload.payload);
+}
+
+// By the keyboard it is about the current object.
+void Editform::contextMenuEvent(QContextMenuEvent *event)
+{
+    std::int16_t index = editing().curobj;
+    QPoint at = area->mapFromGlobal(event->globalPos());
+    if (event->reason() == QContextMenuEvent::Keyboard) {
+        const Rect r = hasCurrentObject() ? rectOf(page().objects[static_cast<std::size_t>(index)]) : Rect{};
+        at = {r.left + r.width / 2, r.top + r.height / 2};
+    } else if (const auto *visual = dynamic_cast<const Visual *>(area->childAt(at))) {
+        const ControlReference control = visual->control();
+        index = findObjectByControl(page(), static_cast<Kind>(control.kind), control.element);
+    } else if (area->rect().contains(at) && (!area->childAt(at) || !trackers.handlesShown())) {
+        index = hitTestPage(page(), at.x(), at.y());
+    }
+    tell(commands.contextMenu, index, at, area->mapToGlobal(at));
 }
 
 // The status text of the object under the pointer, else of the current object.

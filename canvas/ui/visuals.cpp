@@ -1,10 +1,48 @@
 #include "canvas/ui/visuals.h"
 
+#include "document/page_file.h"
+
+#include <vector>
+
 namespace corvanta {
 
 namespace {
 
 std::pair<std::int16_t, std::int16_t> keyOf(ControlReference control) { return {control.kind, control.element}; }
+
+// By kind and number also for objects that are drawn on the page: it tells which objects of two states of a page are
+// the same.
+using Identity = std::pair<std::int16_t, std::int16_t>;
+
+Identity identityOf(const Page &p, std::int16_t index)
+{
+    const auto i = static_cast<std::size_t>(index);
+    return {p.objects[i].kind, p.ctlindex[i]};
+}
+
+std::map<Identity, std::int16_t> identitiesOf(const Page &p)
+{
+    std::map<Identity, std::int16_t> found;
+    for (std::int16_t i = 0; i < objectCount(p); ++i)
+        found.emplace(identityOf(p, i), i);
+    return found;
+}
+
+bool looksAlike(const Page &a, std::int16_t inA, const Page &b, std::int16_t inB)
+{
+    const Element *ea = elementOf(a, inA), *eb = elementOf(b, inB);
+    if (ea && eb && (ea->picture != eb->picture || ea->Caption != eb->Caption))
+        return false;
+    return serialiseObject(a, inA) == serialiseObject(b, inB);
+}
+
+std::vector<Identity> orderOf(const Page &p)
+{
+    std::vector<Identity> order;
+    for (std::int16_t i = 0; i < objectCount(p); ++i)
+        order.push_back(identityOf(p, i));
+    return order;
+}
 
 } // namespace
 
@@ -36,9 +74,18 @@ Visual *Visuals::of(Kind kind, std::int16_t element) const
 
 void Visuals::remove(std::int16_t index)
 {
-    const auto found = visuals.find(keyOf(controlOfObject(page(), index)));
+    const Key key = keyOf(controlOfObject(page(), index));
+    if (visuals.contains(key))
+        removeVisual(key);
+    else
+        pageArea.update();
+}
+
+void Visuals::removeVisual(const Key &key)
+{
+    const auto found = visuals.find(key);
     if (found == visuals.end())
-        return pageArea.update();
+        return;
     found->second->hide();
     found->second->deleteLater(); // the removal may come from the visual's own event
     visuals.erase(found);
@@ -63,6 +110,45 @@ void Visuals::raise(std::int16_t index)
 {
     if (Visual *visual = of(index))
         visual->stackUnder(&top);
+}
+
+void Visuals::restack()
+{
+    for (std::int16_t i = 0; i < objectCount(page()); ++i)
+        raise(i);
+}
+
+// An object without a visual of its own.
+void Visuals::updateDrawn(const Page &p, std::int16_t index)
+{
+    const ObjectRecord &o = p.objects[static_cast<std::size_t>(index)];
+    if (!elementOf(p, index))
+        pageArea.update(o.pleft, o.ptop, o.pwidth, o.pheight);
+}
+
+void Visuals::follow(const Page &before, const std::function<void(std::int16_t)> &created)
+{
+    const auto old = identitiesOf(before), now = identitiesOf(page());
+    for (const auto &[identity, index] : old)
+        if (!now.contains(identity)) {
+            removeVisual(identity);
+            updateDrawn(before, index);
+        }
+    for (const auto &[identity, index] : now) {
+        const auto former = old.find(identity);
+        if (former == old.end()) {
+            created(index);
+        } else if (!looksAlike(before, former->second, page(), index)) {
+            updateDrawn(before, former->second);
+            if (Visual *visual = of(index))
+                visual->refresh();
+        } else {
+            continue;
+        }
+        updateDrawn(page(), index);
+    }
+    if (orderOf(before) != orderOf(page()))
+        restack();
 }
 
 } // namespace corvanta

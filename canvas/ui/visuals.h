@@ -2,6 +2,7 @@
 
 #include "canvas/ui/visual.h"
 
+#include <functional>
 #include <map>
 #include <utility>
 
@@ -21,10 +22,20 @@ public:
     void refresh(std::int16_t index);
     void refreshAll();
     void raise(std::int16_t index);
+    void restack(); // in table order
+
+    // Brings the visuals up to date with a page that undo has put in the place of another; what is alike on both is
+    // left alone. Calls created for every object that has come back.
+    void follow(const Page &before, const std::function<void(std::int16_t)> &created);
 
 private:
+    using Key = std::pair<std::int16_t, std::int16_t>;
+
+    void removeVisual(const Key &key);
+    void updateDrawn(const Page &p, std::int16_t index);
+
     QWidget &pageArea, &top;
-    std::map<std::pair<std::int16_t, std::int16_t>, Visual *> visuals;
+    std::map<Key, Visual *> visuals;
 };
 
 } // namespace corvanta

@@ -205,6 +205,28 @@ void program(QPainter &p, const IconColours &c)
     box(p, 11.5, 13.5, 6, 4, QColor(0xff, 0xe3, 0x9a));
 }
 
+void listBox(QPainter &p, const IconColours &c)
+{
+    box(p, 3.5, 4.5, 17, 15, c.paper);
+    box(p, 3.5, 8.5, 17, 3, c.soft);
+    for (const double y : {6.5, 13.5, 16.5})
+        line(p, 6, y, 15);
+}
+
+void ticker(QPainter &p, const IconColours &c)
+{
+    box(p, 2.5, 8.5, 19, 7, c.paper);
+    line(p, 9, 12, 19);
+    polygon(p, {{4.5, 12}, {8, 9.8}, {8, 14.2}}, c.accent);
+}
+
+void animation(QPainter &p, const IconColours &c)
+{
+    for (const double step : {0.0, 3.0, 6.0})
+        box(p, 3.5 + step, 3.5 + step, 11, 11, c.paper);
+    polygon(p, {{13, 12}, {19, 15}, {13, 18}}, c.accent);
+}
+
 } // namespace
 
 QIcon commandIcon(Command command)
@@ -233,9 +255,9 @@ QIcon kindIcon(Kind kind)
     case Kind::ComboBox: return drawnIcon(comboBox);
     case Kind::File: return drawnIcon(file);
     case Kind::Url: return drawnIcon(url);
-    case Kind::ListBox:
-    case Kind::Ticker:
-    case Kind::Animation: return {};
+    case Kind::ListBox: return drawnIcon(listBox);
+    case Kind::Ticker: return drawnIcon(ticker);
+    case Kind::Animation: return drawnIcon(animation);
     }
     return {};
 }

@@ -4,6 +4,7 @@
 #include "platform/help.h"
 #include "platform/qt/text.h"
 #include "shell/commands.h"
+#include "shell/ui/canvas_menu.h"
 #include "shell/ui/icons.h"
 
 #include <QAction>
@@ -19,19 +20,6 @@ namespace {
 bool isMark(Command command)
 {
     return command == Command::MockToolbar || command == Command::StatusPanel || command == Command::OdbcToolbar;
-}
-
-// The keys of the desktop's own for what every program has.
-QKeySequence shortcutOf(Command command)
-{
-    switch (command) {
-    case Command::New: return QKeySequence::New;
-    case Command::Open: return QKeySequence::Open;
-    case Command::Save: return QKeySequence::Save;
-    case Command::SaveAs: return QKeySequence::SaveAs;
-    case Command::Exit: return QKeySequence::Quit;
-    default: return {};
-    }
 }
 
 const QAction *highlighted(QObject *menu)
@@ -72,7 +60,7 @@ QAction *Menus::addRow(const MenuRow &row)
     auto *action = new QAction(&parent);
     action->setSeparator(isSeparator(row));
     action->setText(isSeparator(row) ? QString() : caption);
-    action->setShortcut(shortcutOf(row.command));
+    action->setShortcuts(shortcutsOf(row.command));
     action->setShortcutContext(Qt::ApplicationShortcut); // on the canvas as well
     action->setCheckable(isMark(row.command));
     action->setMenuRole(QAction::NoRole);

@@ -3,9 +3,11 @@
 #include "canvas/selection.h"
 #include "canvas/ui/editform.h"
 #include "database/ui/odbcdbs.h"
+#include "objects/ui/manyobj.h"
 #include "objects/ui/open_properties.h"
 #include "page/export_html.h"
 #include "page/ui/pgprops.h"
+#include "shell/clipboard.h"
 #include "shell/commands.h"
 #include "shell/ui/aniply.h"
 #include "shell/ui/hpsedit.h"
@@ -35,6 +37,7 @@ Rooms::Rooms(EditorWindows &windows) : editor(windows)
                 editor.canvas()->activateWindow();
         });
     };
+    commands.openSharedProperties = [] { OpenSharedProperties(chosenObjects()); };
     commands.exportHtml = ConvertToHtml;
     commands.playAnimation = [this] { showPlayer(editor.canvas()); };
     commands.toggleOdbc = [this](bool shown) { showOdbc(shown); };
@@ -45,6 +48,7 @@ Rooms::~Rooms()
     RoomCommands &commands = roomCommands();
     commands.openObjectProperties = {};
     commands.openPageProperties = {};
+    commands.openSharedProperties = {};
     commands.exportHtml = {};
     commands.playAnimation = {};
     commands.toggleOdbc = {};

@@ -4,6 +4,7 @@
 #include "canvas/ui/drop_field.h"
 #include "canvas/ui/editform.h"
 #include "document/events.h"
+#include "document/history.h"
 #include "document/page_file.h"
 #include "platform/asking.h"
 #include "platform/codepage.h"
@@ -19,6 +20,7 @@
 #include "platform/qt/window_switch.h"
 #include "shell/commands.h"
 #include "shell/session.h"
+#include "shell/ui/canvas_menu.h"
 #include "shell/ui/help_key.h"
 #include "shell/ui/hpeabout.h"
 #include "shell/ui/hpsdir.h"
@@ -38,7 +40,10 @@ namespace corvanta {
 
 EditorWindows::EditorWindows() : hpsedit(std::make_unique<Hpsedit>())
 {
+    startHistory();
+    addCommandKeys(*hpsedit);
     connectCommands();
+    followSelection();
     connectSession();
     connectWindows();
 }
@@ -48,6 +53,7 @@ EditorWindows::~EditorWindows()
     switchableWindows() = {};
     sessionSteps() = {};
     editform.reset();
+    stopHistory();
 }
 
 void EditorWindows::start(const std::string &pageFile) { startSession(pageFile); }
@@ -69,6 +75,23 @@ void EditorWindows::connectCommands()
         if (editform)
             editform->showStatusPanel(shown);
     });
+}
+
+// The selection that an act leaves, or that the author makes after it, belongs to the page as it is then.
+void EditorWindows::followSelection()
+{
+    const auto note = [pending = std::make_shared<bool>(false)] {
+        if (std::exchange(*pending, true))
+            return;
+        postToEventLoop([pending] {
+            *pending = false;
+            noteSelection();
+        });
+    };
+    CanvasEvents &canvas = canvasEvents();
+    connections.add(canvas.currentChanged, note);
+    connections.add(canvas.placeFrameMarkers, [note](std::int16_t, const Rect &) { note(); });
+    connections.add(canvas.hideFrameMarkers, [note](std::int16_t) { note(); });
 }
 
 void EditorWindows::connectSession()
@@ -117,6 +140,10 @@ void EditorWindows::loadCanvas()
     commands.fieldDropped = [](QPoint at, const QByteArray &payload) {
         dropField({at.x(), at.y()}, payload.toStdString());
     };
+    commands.contextMenu = [this](std::int16_t index, QPoint at, QPoint onScreen) {
+        openCanvasMenu(index, at, onScreen, editform.get());
+    };
+    addCommandKeys(*editform);
     commands.closeRequested = [this] { // after the canvas's own event: it does not outlive the session
         QTimer::singleShot(0, hpsedit.get(), [this] { hpsedit->close(); });
     };

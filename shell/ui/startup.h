@@ -30,6 +30,7 @@ public:
 private:
     void loadCanvas();
     void connectCommands();
+    void followSelection();
     void connectSession();
     void connectWindows();
 
