@@ -1,7 +1,7 @@
 #include "platform/codepage.h"
 #include "platform/host_files.h"
-#include "json/page.h"
 #include "tools/odspage_commands.h"
+#include "json/page.h"
 
 #include <memory>
 

@@ -2,8 +2,8 @@
 #include "document/object_file.h"
 #include "document/page_file.h"
 #include "platform/text.h"
-#include "json/page.h"
 #include "tools/odspage_commands.h"
+#include "json/page.h"
 
 #include <memory>
 

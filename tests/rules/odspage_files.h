@@ -1,8 +1,8 @@
 #pragma once
 
 #include "tests/support/samples.h"
-#include "json/page.h"
 #include "tools/odspage_commands.h"
+#include "json/page.h"
 
 #include <sstream>
 
