@@ -19,6 +19,7 @@ constexpr AddCommand commands[] = {
     addBuildCommand,
     addSqlCommand,
     addHtmlCommand,
+    addPreviewCommand,
 };
 
 constexpr int usualCodePage = 1252, wrongUsage = 2;
@@ -58,7 +59,7 @@ int runOdspage(int argc, const char *const *argv, std::ostream &out, std::ostrea
             useCodePage(number);
             run.codePageGiven = true;
         },
-        "code page of the texts in the files: 874 or 1250 to 1258 (default 1252; for html that of the language)");
+        "code page of the texts in the files: 874 or 1250 to 1258 (default 1252; for html and preview that of the language)");
     for (const AddCommand add : commands)
         add(app, run);
     for (CLI::App *command : app.get_subcommands({}))

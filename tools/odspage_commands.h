@@ -28,5 +28,6 @@ void addDumpCommand(CLI::App &app, ToolRun &run);
 void addBuildCommand(CLI::App &app, ToolRun &run);
 void addSqlCommand(CLI::App &app, ToolRun &run);
 void addHtmlCommand(CLI::App &app, ToolRun &run);
+void addPreviewCommand(CLI::App &app, ToolRun &run);
 
 } // namespace corvanta

@@ -1,0 +1,207 @@
+#include "platform/codepage.h"
+#include "preview/host.h"
+#include "preview/server.h"
+#include "tools/odspage_commands.h"
+
+#include <atomic>
+#include <csignal>
+#include <cstdlib>
+#include <iostream>
+#include <memory>
+#include <poll.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+
+namespace corvanta {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int endingTime = 2000; // milliseconds that open requests get to end
+
+struct PreviewArguments {
+    std::string target;
+    std::vector<std::string> overlays; // NAME=FILE
+    int port = 0;
+    bool write = false, open = false;
+};
+
+// Written to by the signal handler.
+int endPipe[2] = {-1, -1};
+
+void askForEnd(int)
+{
+    const char byte = 0;
+    [[maybe_unused]] const ssize_t written = write(endPipe[1], &byte, 1);
+}
+
+void watchSignals()
+{
+    if (pipe(endPipe) != 0)
+        return;
+    struct sigaction end = {};
+    end.sa_handler = askForEnd;
+    sigaction(SIGINT, &end, nullptr);
+    sigaction(SIGTERM, &end, nullptr);
+    sigaction(SIGHUP, &end, nullptr);
+    signal(SIGPIPE, SIG_IGN);
+}
+
+// Whether a program holds the other end of the standard input; a terminal or a file does not end the preview.
+bool inputIsHeld()
+{
+    struct stat status = {};
+    return fstat(STDIN_FILENO, &status) == 0 && (S_ISFIFO(status.st_mode) || S_ISSOCK(status.st_mode));
+}
+
+std::string stemName(const fs::path &file) { return fromUtf8Lossy(file.stem().string()); }
+
+// The directory with its overlays; the failure is for the user.
+std::string findPages(const PreviewArguments &arguments, PageFolder &pages)
+{
+    std::error_code error;
+    const fs::path target = fs::canonical(arguments.target, error);
+    if (error)
+        return error.message();
+    const bool folder = fs::is_directory(target, error);
+    pages.folder = folder ? target : target.parent_path();
+    for (const std::string &text : arguments.overlays) {
+        const std::size_t equals = text.find('=');
+        if (equals == 0 || equals == std::string::npos)
+            return "--overlay takes NAME=FILE";
+        pages.overlays.push_back({fromUtf8Lossy(text.substr(0, equals)), fs::absolute(text.substr(equals + 1))});
+    }
+    if (!folder) {
+        pages.overlays.push_back({stemName(target), target});
+        pages.start = stemName(target);
+    } else {
+        pages.start = pages.overlays.empty() ? startPage(pages.folder) : pages.overlays.front().name;
+    }
+    return pages.start.empty() ? "no page files (.ods) here" : "";
+}
+
+// Opens an address in the user's browser.
+void openBrowser(const std::string &address)
+{
+    const pid_t child = fork();
+    if (child == 0) {
+        if (fork() == 0)
+            execlp("xdg-open", "xdg-open", address.c_str(), static_cast<char *>(nullptr));
+        _exit(0);
+    }
+    if (child > 0)
+        waitpid(child, nullptr, 0);
+}
+
+struct Running {
+    ToolRun &run;
+    const PageFolder &pages;
+    PreviewServer &server;
+    std::string base; // address with the token and "/"
+    std::string input;
+
+    void tell(const std::string &page) const { run.out << base << PreviewHost::addressOf(page) << std::endl; }
+
+    // "show NAME" sends the open browser windows to the page, or tells its address for a new one.
+    void command(const std::string &line) const
+    {
+        if (!line.starts_with("show "))
+            return;
+        const std::string page = fromUtf8Lossy(line.substr(5));
+        if (server.sendTo(PreviewHost::addressOf(page)))
+            run.out << "shown" << std::endl;
+        else
+            tell(page);
+    }
+
+    // False at the end of the input.
+    bool readInput()
+    {
+        char bytes[1024];
+        const ssize_t count = read(STDIN_FILENO, bytes, sizeof bytes);
+        if (count <= 0 || input.size() > sizeof bytes)
+            return false;
+        input.append(bytes, static_cast<std::size_t>(count));
+        for (std::size_t end = 0; (end = input.find('\n')) != std::string::npos; input.erase(0, end + 1))
+            command(input.substr(0, end));
+        return true;
+    }
+
+    void waitForEnd()
+    {
+        pollfd waiting[2] = {{endPipe[0], POLLIN, 0}, {inputIsHeld() ? STDIN_FILENO : -1, POLLIN, 0}};
+        for (;;) {
+            if (poll(waiting, 2, -1) < 0 && errno != EINTR)
+                return;
+            if (waiting[0].revents != 0 || (waiting[1].revents != 0 && !readInput()))
+                return;
+        }
+    }
+};
+
+void serveUntilEnd(ToolRun &run, const PageFolder &pages, PreviewServer &server, const PreviewArguments &arguments,
+                   const std::string &base)
+{
+    std::thread serving([&] { server.serve(); });
+    Running running{run, pages, server, base, {}};
+    running.tell(pages.start);
+    if (arguments.open)
+        openBrowser(base + PreviewHost::addressOf(pages.start));
+    running.waitForEnd();
+    server.stop();
+    std::atomic<bool> ended = false;
+    std::thread guard([&ended] { // a database that does not answer holds nobody up
+        for (int waited = 0; waited < endingTime && !ended; waited += 20)
+            std::this_thread::sleep_for(std::chrono::milliseconds(20));
+        if (!ended)
+            std::_Exit(0);
+    });
+    serving.join();
+    ended = true;
+    guard.join();
+}
+
+int preview(ToolRun &run, const PreviewArguments &arguments)
+{
+    PageFolder pages;
+    if (const std::string failure = findPages(arguments, pages); !failure.empty()) {
+        complain(run, arguments.target, failure);
+        return 1;
+    }
+    watchSignals();
+    PreviewHost host(pages);
+    const std::string token = randomToken();
+    PreviewServer server(token, {[&](const PreviewRequest &request) { return host.answer(request); },
+                                 [&](const std::string &page) { return host.stamp(page); }});
+    const int port = server.bind(arguments.port);
+    if (port <= 0) {
+        complain(run, "port " + std::to_string(arguments.port), "not to be had");
+        return 1;
+    }
+    serveUntilEnd(run, pages, server, arguments, "http://127.0.0.1:" + std::to_string(port) + "/" + token + "/");
+    return 0;
+}
+
+} // namespace
+
+void addPreviewCommand(CLI::App &app, ToolRun &run)
+{
+    CLI::App *command = app.add_subcommand("preview", "Serve the pages of a directory to this machine's browsers");
+    const auto arguments = std::make_shared<PreviewArguments>();
+    command->add_option("FILE.ods|DIR", arguments->target, "the page to begin with, or the directory")->required();
+    command->add_option("--port", arguments->port, "port of 127.0.0.1 (default: any that is free)")
+        ->check(CLI::Range(0, 65535));
+    command->add_flag("--write", arguments->write, "carry out statements that change the database");
+    command->add_flag("--open", arguments->open, "open the page in the browser");
+    command->add_option("--overlay", arguments->overlays, "NAME=FILE: the page NAME has the content of FILE");
+    command->callback([&run, arguments] {
+        if (!run.codePageGiven)
+            setCodePage(codePageOfEnvironment());
+        run.exitCode = preview(run, *arguments);
+    });
+}
+
+} // namespace corvanta
