@@ -5,8 +5,6 @@
 namespace corvanta {
 namespace {
 
-enum class ValueClass { Text, Number, Date };
-
 ValueClass inputClass(std::int16_t inptype)
 {
     switch (inptype) {
@@ -23,6 +21,29 @@ std::int16_t inputType(const Page &p, std::int16_t index)
     auto element = static_cast<std::size_t>(p.ctlindex[index]);
     return element < p.tbxextras.size() ? p.tbxextras[element].inptype : std::int16_t{0};
 }
+
+std::string placeholder(const std::string &name) { return "@" + name + "@"; }
+
+std::string operatorText(const std::string &condobjname, ValueClass value)
+{
+    if (!condobjname.empty())
+        return placeholder(condobjname) + " ";
+    return value == ValueClass::Text ? "Like " : "= ";
+}
+
+std::string valueText(const ObjectRecord &object, ValueClass value)
+{
+    switch (value) {
+    case ValueClass::Number: return placeholder(object.ctlname);
+    case ValueClass::Date: return "{d'" + placeholder(object.ctlname) + "'}";
+    case ValueClass::Text: break;
+    }
+    return "'" + placeholder(object.ctlname) + (object.condobjname.empty() ? "%'" : "'");
+}
+
+bool contributes(const ObjectRecord &object) { return !object.datacol.empty() && !object.has(exludesqlFlag); }
+
+} // namespace
 
 ValueClass valueClass(const Page &p, std::int16_t index)
 {
@@ -52,29 +73,6 @@ std::string quotedIfBlank(std::string_view name)
     std::string text(name);
     return name.find(' ') == std::string_view::npos ? text : '"' + text + '"';
 }
-
-std::string placeholder(const std::string &name) { return "@" + name + "@"; }
-
-std::string operatorText(const std::string &condobjname, ValueClass value)
-{
-    if (!condobjname.empty())
-        return placeholder(condobjname) + " ";
-    return value == ValueClass::Text ? "Like " : "= ";
-}
-
-std::string valueText(const ObjectRecord &object, ValueClass value)
-{
-    switch (value) {
-    case ValueClass::Number: return placeholder(object.ctlname);
-    case ValueClass::Date: return "{d'" + placeholder(object.ctlname) + "'}";
-    case ValueClass::Text: break;
-    }
-    return "'" + placeholder(object.ctlname) + (object.condobjname.empty() ? "%'" : "'");
-}
-
-bool contributes(const ObjectRecord &object) { return !object.datacol.empty() && !object.has(exludesqlFlag); }
-
-} // namespace
 
 SqlText GenerateSelect(const Page &p, std::string_view statement)
 {

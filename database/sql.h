@@ -9,6 +9,13 @@
 // name, "@"; nothing is validated or escaped in it.
 namespace corvanta {
 
+// Operator and quoting of a bound object's value.
+enum class ValueClass { Text, Number, Date };
+ValueClass valueClass(const Page &p, std::int16_t index);
+
+// A name as it stands in a statement: in double quotes when it holds a blank.
+std::string quotedIfBlank(std::string_view name);
+
 // A text, or the message that the user is to be shown and why there is none.
 struct SqlText {
     std::string text;

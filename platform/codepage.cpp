@@ -11,7 +11,7 @@ namespace corvanta {
 
 namespace {
 
-constexpr char32_t malformed = 0xFFFFFFFF;
+constexpr char32_t malformed = 0xFFFFFFFF, replacement = 0xFFFD;
 
 struct CurrentCodePage {
     const CodePageTable *table = nullptr;
@@ -60,7 +60,12 @@ void appendUtf8(std::string &utf8, char32_t character)
         utf8 += static_cast<char>(0xC0 | (character >> 6));
         utf8 += continuation(0);
     } else {
-        utf8 += static_cast<char>(0xE0 | (character >> 12));
+        if (character < 0x10000) {
+            utf8 += static_cast<char>(0xE0 | (character >> 12));
+        } else {
+            utf8 += static_cast<char>(0xF0 | (character >> 18));
+            utf8 += continuation(12);
+        }
         utf8 += continuation(6);
         utf8 += continuation(0);
     }
@@ -181,6 +186,35 @@ std::string fromUtf8Lossy(std::string_view utf8)
     while (!utf8.empty())
         bytes += static_cast<char>(byteOf(takeCharacter(utf8)).value_or('?'));
     return bytes;
+}
+
+std::u16string utf16FromUtf8(std::string_view utf8)
+{
+    std::u16string text;
+    while (!utf8.empty()) {
+        const char32_t taken = takeCharacter(utf8), c = taken == malformed ? replacement : taken;
+        if (c < 0x10000) {
+            text += static_cast<char16_t>(c);
+        } else {
+            text += static_cast<char16_t>(0xD7C0 + (c >> 10));
+            text += static_cast<char16_t>(0xDC00 + (c & 0x3FF));
+        }
+    }
+    return text;
+}
+
+std::string utf8FromUtf16(std::u16string_view text)
+{
+    std::string utf8;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const char32_t unit = text[i], next = i + 1 < text.size() ? text[i + 1] : 0;
+        const bool high = unit >= 0xD800 && unit < 0xDC00, low = next >= 0xDC00 && next < 0xE000;
+        if (high && low)
+            ++i;
+        const bool lone = unit >= 0xD800 && unit < 0xE000 && !(high && low);
+        appendUtf8(utf8, high && low ? 0x10000 + ((unit - 0xD800) << 10) + (next - 0xDC00) : lone ? replacement : unit);
+    }
+    return utf8;
 }
 
 } // namespace corvanta

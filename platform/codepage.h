@@ -35,4 +35,8 @@ std::optional<std::string> fromUtf8(std::string_view utf8);
 // UTF-8 as bytes of the code page with "?" for what it lacks and for malformed bytes.
 std::string fromUtf8Lossy(std::string_view utf8);
 
+// UTF-8 as UTF-16 and back, with U+FFFD for what is malformed.
+std::u16string utf16FromUtf8(std::string_view utf8);
+std::string utf8FromUtf16(std::u16string_view text);
+
 } // namespace corvanta

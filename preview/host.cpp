@@ -1,67 +1,74 @@
 #include "preview/host.h"
 
 #include "actions/action_kinds.h"
-#include "converter/address.h"
-#include "converter/ods2hts.h"
 #include "platform/codepage.h"
-#include "preview/strip.h"
-
-#include <algorithm>
+#include "preview/actions.h"
+#include "preview/shown_page.h"
 
 namespace corvanta {
 
 namespace {
 
-constexpr int soundHeight = 60; // pixels of the player below a page
+constexpr const char *html = "text/html; charset=utf-8";
 
-PreviewAnswer notFound(const std::string &what) { return {404, "text/plain; charset=utf-8", what + "\n", {}}; }
-
-int heightOf(const Page &p) { return std::max<int>(p.bkght, 0) + (p.sndfn.empty() ? 0 : soundHeight); }
+PreviewAnswer redirection(const std::string &location) { return {303, "text/plain", {}, location}; }
 
 } // namespace
 
-PreviewHost::PreviewHost(PageFolder folder) : pages(std::move(folder))
+PreviewHost::PreviewHost(PageFolder folder, PreviewOptions options)
+    : parts{std::move(folder), DataSources(std::move(options.ask)), options.write, {}, {}, {}}
 {
     BuildActionKinds(); // before the threads start
 }
 
-std::string PreviewHost::addressOf(const std::string &page) { return pageAddress(page); }
-
 std::string PreviewHost::stamp(const std::string &page) const
 {
     const std::optional<std::string> name = fromUtf8(page);
-    return name ? pageStamp(pages, *name) : std::string();
+    return name ? pageStamp(parts.pages, *name) : std::string();
 }
 
 PreviewAnswer PreviewHost::answer(const PreviewRequest &request)
 {
     if (request.path.empty())
-        return {303, "text/plain", "", startAddress()};
+        return redirection(pageLocation(parts.pages.start));
     if (request.path == ".preview.js")
         return {200, "text/javascript; charset=utf-8", stripScript, {}};
     if (request.path == ".preview.css")
         return {200, "text/css; charset=utf-8", stripStyle, {}};
-    if (const std::optional<std::string> name = pageOfAddress(pages, request.path))
-        return showPage(*name, request);
-    if (std::optional<MediaFile> media = mediaFile(pages, request.path))
+    if (request.path == ".end") {
+        const std::string page = ownPage("The application has ended", "The host would end the call here.",
+                                         {"Start again", pageLocation(parts.pages.start)});
+        return {200, html, withStrip(page, stripOf(parts, parts.pages.start, request)), {}};
+    }
+    if (const std::optional<std::string> name = pageOfAddress(parts.pages, request.path))
+        return answerPage(*name, request);
+    if (std::optional<MediaFile> media = mediaFile(parts.pages, request.path); media && !request.post)
         return {200, media->type, std::move(media->bytes), {}};
-    return notFound("There is no such file among the pages, pictures and sounds of the directory.");
+    return {404, "text/plain; charset=utf-8", "There is no such page, picture or sound in the directory.\n", {}};
 }
 
-PreviewAnswer PreviewHost::showPage(const std::string &name, const PreviewRequest &)
+PreviewAnswer PreviewHost::answerPage(const std::string &name, const PreviewRequest &request)
 {
-    Strip strip;
-    strip.page = toUtf8(name);
-    strip.stamp = pageStamp(pages, name);
-    strip.entries = journal.newestFirst();
-    const LoadedPage loaded = loadPage(pages, name);
+    const LoadedPage loaded = loadPage(parts.pages, name);
     if (!loaded.failure.empty()) {
-        const std::string page = ownPage(loaded.missing ? "Page not found" : "Page not readable",
-                                         strip.page + ".ods: " + loaded.failure + ".", {"Start page", startAddress()});
-        return {loaded.missing ? 404 : 500, "text/html; charset=utf-8", withStrip(page, strip), {}};
+        const std::string page =
+            ownPage(loaded.missing ? "Page not found" : "Page not readable",
+                    toUtf8(name) + ".ods: " + loaded.failure + ".", {"Start page", pageLocation(parts.pages.start)});
+        return {loaded.missing ? 404 : 500, html, withStrip(page, stripOf(parts, name, request)), {}};
     }
-    strip.pageHeight = heightOf(loaded.page);
-    return {200, "text/html; charset=utf-8", withStrip(htmlTemplate(loaded.page), strip), {}};
+    if (request.post) {
+        const bool record = !valueOf(request.query, "row").empty();
+        return redirection(useObject(
+            parts, {loaded, request, resultOf(parts, request), numberOf(request, record ? "row" : "from", 0)}));
+    }
+    if (const std::string records = ownRecords(parts, loaded, request); !records.empty())
+        return redirection(records);
+    std::string address = pageLocation(name);
+    for (const char *part : {"result", "row", "from"})
+        if (const std::string value = valueOf(request.query, part); !value.empty())
+            address += (address.find('?') == std::string::npos ? "?" : "&") + (part + ("=" + value));
+    parts.trail.visit(address);
+    return {200, html, shownPage(parts, loaded, request), {}};
 }
 
 } // namespace corvanta

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "preview/journal.h"
-#include "preview/pages.h"
+#include "preview/host_parts.h"
 #include "preview/request.h"
 
 #include <string>
@@ -10,24 +9,24 @@
 // what each action does. May be called from many threads.
 namespace corvanta {
 
+struct PreviewOptions {
+    bool write = false; // carry out statements that change the database
+    AskCredentials ask; // empty: nobody is asked
+};
+
 class PreviewHost {
 public:
-    explicit PreviewHost(PageFolder pages);
+    PreviewHost(PageFolder pages, PreviewOptions options);
 
     PreviewAnswer answer(const PreviewRequest &request);
 
     // A text that changes when a page changes; the page's name in UTF-8.
     std::string stamp(const std::string &page) const;
 
-    // The address of a page (name in bytes of the code page) below the token.
-    static std::string addressOf(const std::string &page);
-    std::string startAddress() const { return addressOf(pages.start); }
-
 private:
-    PreviewAnswer showPage(const std::string &name, const PreviewRequest &request);
+    PreviewAnswer answerPage(const std::string &name, const PreviewRequest &request);
 
-    PageFolder pages;
-    Journal journal;
+    HostParts parts;
 };
 
 } // namespace corvanta

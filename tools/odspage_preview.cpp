@@ -6,11 +6,13 @@
 #include <atomic>
 #include <csignal>
 #include <cstdlib>
+#include <fcntl.h>
 #include <iostream>
 #include <memory>
 #include <poll.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
+#include <termios.h>
 #include <thread>
 #include <unistd.h>
 
@@ -20,6 +22,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr std::size_t longestAnswer = 255;
 constexpr int endingTime = 2000; // milliseconds that open requests get to end
 
 struct PreviewArguments {
@@ -96,6 +99,42 @@ void openBrowser(const std::string &address)
         waitpid(child, nullptr, 0);
 }
 
+// One line from the terminal, without echo when it is a secret.
+std::string terminalLine(int terminal, const std::string &prompt, bool secret)
+{
+    termios before = {};
+    tcgetattr(terminal, &before);
+    termios silent = before;
+    silent.c_lflag &= ~static_cast<tcflag_t>(ECHO);
+    [[maybe_unused]] ssize_t done = write(terminal, prompt.data(), prompt.size());
+    if (secret)
+        tcsetattr(terminal, TCSAFLUSH, &silent);
+    std::string line;
+    for (char c = 0; read(terminal, &c, 1) == 1 && c != '\n' && line.size() < longestAnswer;)
+        line += c;
+    if (secret) {
+        tcsetattr(terminal, TCSAFLUSH, &before);
+        done = write(terminal, "\n", 1);
+    }
+    return line;
+}
+
+// The credentials of a data source from the user at the terminal; none without a terminal and for an empty user.
+std::optional<Credentials> askOnTerminal(const std::string &source)
+{
+    if (isatty(STDIN_FILENO) == 0)
+        return std::nullopt;
+    const int terminal = open("/dev/tty", O_RDWR | O_CLOEXEC);
+    if (terminal < 0)
+        return std::nullopt;
+    Credentials given;
+    given.user = fromUtf8Lossy(terminalLine(terminal, "User name for " + toUtf8(source) + ": ", false));
+    if (!given.user.empty())
+        given.password = fromUtf8Lossy(terminalLine(terminal, "Password: ", true));
+    close(terminal);
+    return given.user.empty() ? std::nullopt : std::optional(given);
+}
+
 struct Running {
     ToolRun &run;
     const PageFolder &pages;
@@ -103,7 +142,7 @@ struct Running {
     std::string base; // address with the token and "/"
     std::string input;
 
-    void tell(const std::string &page) const { run.out << base << PreviewHost::addressOf(page) << std::endl; }
+    void tell(const std::string &page) const { run.out << base << pageLocation(page) << std::endl; }
 
     // "show NAME" sends the open browser windows to the page, or tells its address for a new one.
     void command(const std::string &line) const
@@ -111,7 +150,7 @@ struct Running {
         if (!line.starts_with("show "))
             return;
         const std::string page = fromUtf8Lossy(line.substr(5));
-        if (server.sendTo(PreviewHost::addressOf(page)))
+        if (server.sendTo(pageLocation(page)))
             run.out << "shown" << std::endl;
         else
             tell(page);
@@ -149,7 +188,7 @@ void serveUntilEnd(ToolRun &run, const PageFolder &pages, PreviewServer &server,
     Running running{run, pages, server, base, {}};
     running.tell(pages.start);
     if (arguments.open)
-        openBrowser(base + PreviewHost::addressOf(pages.start));
+        openBrowser(base + pageLocation(pages.start));
     running.waitForEnd();
     server.stop();
     std::atomic<bool> ended = false;
@@ -172,7 +211,7 @@ int preview(ToolRun &run, const PreviewArguments &arguments)
         return 1;
     }
     watchSignals();
-    PreviewHost host(pages);
+    PreviewHost host(pages, {arguments.write, askOnTerminal});
     const std::string token = randomToken();
     PreviewServer server(token, {[&](const PreviewRequest &request) { return host.answer(request); },
                                  [&](const std::string &page) { return host.stamp(page); }});

@@ -1,0 +1,295 @@
+#include "database/statement.h"
+
+#include "platform/codepage.h"
+
+#include <algorithm>
+#include <sql.h>
+#include <sqlext.h>
+#include <sqlucode.h>
+
+namespace corvanta {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr std::size_t messageLimit = 1024, chunkUnits = 4096; // UTF-16 units
+constexpr SQLSMALLINT mostMessages = 8;
+constexpr std::size_t longestVarchar = 4000; // characters that every driver takes as a plain text
+
+static_assert(sizeof(SQLWCHAR) == sizeof(char16_t));
+
+SQLWCHAR *odbcText(const std::u16string &text)
+{
+    return const_cast<SQLWCHAR *>(reinterpret_cast<const SQLWCHAR *>(text.c_str()));
+}
+
+std::string utf8Of(const SQLWCHAR *text) { return utf8FromUtf16(reinterpret_cast<const char16_t *>(text)); }
+
+void takeDiagnosis(SQLSMALLINT kind, SQLHANDLE handle, SqlResult &result)
+{
+    for (SQLSMALLINT number = 1; number <= mostMessages; ++number) {
+        SQLWCHAR state[SQL_SQLSTATE_SIZE + 1] = {}, text[messageLimit] = {};
+        SQLINTEGER native = 0;
+        SQLSMALLINT length = 0;
+        if (!SQL_SUCCEEDED(SQLGetDiagRecW(kind, handle, number, state, &native, text, messageLimit, &length)))
+            break;
+        if (number == 1)
+            result.state = utf8Of(state);
+        result.error += (number == 1 ? "" : "\n") + utf8Of(state) + " " + utf8Of(text);
+    }
+    if (result.error.empty())
+        result.error = "The driver gives no reason.";
+}
+
+// A handle that ends with its statement.
+struct Statement {
+    explicit Statement(void *connection) { SQLAllocHandle(SQL_HANDLE_STMT, connection, &handle); }
+    Statement(const Statement &) = delete;
+    Statement &operator=(const Statement &) = delete;
+    ~Statement()
+    {
+        if (handle)
+            SQLFreeHandle(SQL_HANDLE_STMT, handle);
+    }
+    SQLHSTMT handle = nullptr;
+};
+
+bool isTextType(std::int16_t type)
+{
+    switch (type) {
+    case 0:
+    case SQL_CHAR:
+    case SQL_VARCHAR:
+    case SQL_LONGVARCHAR:
+    case SQL_WCHAR:
+    case SQL_WVARCHAR:
+    case SQL_WLONGVARCHAR: return true;
+    default: return false;
+    }
+}
+
+// Drivers without Unicode take and give texts as bytes.
+enum class Units { Wide, Narrow };
+
+// The texts that are bound stay where they are until the statement has run.
+struct Bound {
+    std::u16string wide;
+    std::string narrow;
+    SQLLEN length = 0; // bytes
+};
+
+bool bind(SQLHSTMT handle, SQLUSMALLINT number, const SqlParameter &parameter, Units units, Bound &bound)
+{
+    bound.narrow = parameter.value.value_or(std::string());
+    bound.wide = utf16FromUtf8(bound.narrow);
+    const bool text = isTextType(parameter.column.type), wide = units == Units::Wide;
+    const bool isLong = bound.narrow.size() > longestVarchar;
+    const std::size_t bytes = wide ? bound.wide.size() * sizeof(SQLWCHAR) : bound.narrow.size();
+    bound.length = parameter.value ? static_cast<SQLLEN>(bytes) : SQL_NULL_DATA;
+    const SQLSMALLINT textType =
+        wide ? (isLong ? SQL_WLONGVARCHAR : SQL_WVARCHAR) : (isLong ? SQL_LONGVARCHAR : SQL_VARCHAR);
+    const SQLULEN size = text ? std::max<SQLULEN>(bound.narrow.size(), 1) : parameter.column.size;
+    const SQLPOINTER value = wide ? static_cast<SQLPOINTER>(bound.wide.data()) : bound.narrow.data();
+    return SQL_SUCCEEDED(SQLBindParameter(handle, number, SQL_PARAM_INPUT, wide ? SQL_C_WCHAR : SQL_C_CHAR,
+                                          text ? textType : parameter.column.type, size, parameter.column.digits, value,
+                                          0, &bound.length));
+}
+
+std::vector<SqlColumn> describe(SQLHSTMT handle)
+{
+    SQLSMALLINT count = 0;
+    SQLNumResultCols(handle, &count);
+    std::vector<SqlColumn> columns(static_cast<std::size_t>(std::max<SQLSMALLINT>(count, 0)));
+    SQLUSMALLINT number = 0;
+    for (SqlColumn &column : columns) {
+        SQLWCHAR name[messageLimit] = {};
+        SQLSMALLINT length = 0, nullable = 0;
+        SQLULEN size = 0;
+        SQLDescribeColW(handle, ++number, name, messageLimit, &length, &column.type, &size, &column.digits, &nullable);
+        column.name = utf8Of(name);
+        column.size = size;
+    }
+    return columns;
+}
+
+// One text of the current row in as many pieces as the driver gives, up to a limit; none for NULL. The last status is
+// that of a failure when the driver does not give it in these units.
+template <class Text>
+std::optional<Text> pieces(SQLHSTMT handle, SQLUSMALLINT column, SQLSMALLINT type, std::size_t limit, SQLRETURN &status)
+{
+    Text text;
+    for (;;) {
+        typename Text::value_type chunk[chunkUnits] = {};
+        SQLLEN length = 0;
+        status = SQLGetData(handle, column, type, chunk, sizeof chunk, &length);
+        if (status == SQL_NO_DATA)
+            return text;
+        if (!SQL_SUCCEEDED(status) || length == SQL_NULL_DATA)
+            return std::nullopt;
+        text += chunk;
+        if (status == SQL_SUCCESS || text.size() > limit)
+            return text;
+    }
+}
+
+SqlField textOf(SQLHSTMT handle, SQLUSMALLINT column, std::size_t limit)
+{
+    SQLRETURN status = SQL_SUCCESS;
+    std::optional<std::u16string> text = pieces<std::u16string>(handle, column, SQL_C_WCHAR, limit, status);
+    if (!SQL_SUCCEEDED(status) && status != SQL_NO_DATA) {
+        const auto narrow = pieces<std::string>(handle, column, SQL_C_CHAR, limit, status);
+        text = narrow ? std::optional(utf16FromUtf8(*narrow)) : std::nullopt;
+    }
+    if (!text)
+        return std::nullopt;
+    std::string utf8 = utf8FromUtf16(*text);
+    if (utf8.size() > limit) {
+        while (limit > 0 && (static_cast<unsigned char>(utf8[limit]) & 0xC0) == 0x80)
+            --limit;
+        utf8.resize(limit);
+    }
+    return utf8;
+}
+
+void fetch(SQLHSTMT handle, const SqlLimits &limits, SqlResult &result)
+{
+    const auto end = Clock::now() + limits.time;
+    std::size_t bytes = 0;
+    for (;;) {
+        const SQLRETURN status = SQLFetch(handle);
+        if (status == SQL_NO_DATA)
+            return;
+        if (!SQL_SUCCEEDED(status))
+            return takeDiagnosis(SQL_HANDLE_STMT, handle, result);
+        result.more = result.rows.size() >= limits.rows || bytes > limits.bytes || Clock::now() > end;
+        if (result.more)
+            return;
+        SqlRow row;
+        for (std::size_t i = 0; i < result.columns.size(); ++i) {
+            row.push_back(textOf(handle, static_cast<SQLUSMALLINT>(i + 1), limits.textBytes));
+            bytes += row.back() ? row.back()->size() : 0;
+        }
+        result.rows.push_back(std::move(row));
+    }
+}
+
+void execute(SQLHSTMT handle, const SqlStatement &statement, Units units, const SqlLimits &limits, SqlResult &result)
+{
+    SQLSetStmtAttr(handle, SQL_ATTR_QUERY_TIMEOUT,
+                   reinterpret_cast<SQLPOINTER>(static_cast<SQLULEN>(limits.time.count())), 0);
+    std::vector<Bound> bound(statement.parameters.size());
+    for (std::size_t i = 0; i < bound.size(); ++i)
+        if (!bind(handle, static_cast<SQLUSMALLINT>(i + 1), statement.parameters[i], units, bound[i]))
+            return takeDiagnosis(SQL_HANDLE_STMT, handle, result);
+    const std::u16string text = utf16FromUtf8(statement.text);
+    const SQLRETURN status = SQLExecDirectW(handle, odbcText(text), SQL_NTS);
+    if (!SQL_SUCCEEDED(status) && status != SQL_NO_DATA)
+        return takeDiagnosis(SQL_HANDLE_STMT, handle, result);
+    result.columns = describe(handle);
+    SQLLEN changed = -1;
+    if (!result.columns.empty())
+        fetch(handle, limits, result);
+    else if (status == SQL_NO_DATA)
+        result.changed = 0;
+    else if (SQL_SUCCEEDED(SQLRowCount(handle, &changed)))
+        result.changed = static_cast<long>(changed);
+}
+
+// Drivers without Unicode say so in different ways, before the statement runs.
+bool refusesUnits(const SqlResult &result)
+{
+    return result.state == "HYC00" || result.state == "07006" || result.state == "HY003";
+}
+
+SqlResult run(void *connection, const SqlStatement &statement, const SqlLimits &limits)
+{
+    SqlResult result;
+    const auto start = Clock::now();
+    for (const Units units : {Units::Wide, Units::Narrow}) {
+        Statement own(connection);
+        result = {};
+        if (own.handle)
+            execute(own.handle, statement, units, limits, result);
+        else
+            takeDiagnosis(SQL_HANDLE_DBC, connection, result);
+        if (statement.parameters.empty() || !refusesUnits(result))
+            break;
+    }
+    result.milliseconds = std::chrono::duration<double, std::milli>(Clock::now() - start).count();
+    return result;
+}
+
+bool isSqlite(void *connection)
+{
+    SQLWCHAR name[messageLimit] = {};
+    SQLSMALLINT length = 0;
+    SQLGetInfoW(connection, SQL_DBMS_NAME, name, sizeof name, &length);
+    return utf8Of(name).starts_with("SQLite");
+}
+
+} // namespace
+
+SqlClass sqlClass(const SqlColumn &column)
+{
+    switch (column.type) {
+    case SQL_BIT:
+    case SQL_TINYINT:
+    case SQL_SMALLINT:
+    case SQL_INTEGER:
+    case SQL_BIGINT:
+    case SQL_REAL:
+    case SQL_FLOAT:
+    case SQL_DOUBLE:
+    case SQL_NUMERIC:
+    case SQL_DECIMAL: return SqlClass::Number;
+    case SQL_DATE:
+    case SQL_TYPE_DATE: return SqlClass::Date;
+    case SQL_TIME:
+    case SQL_TYPE_TIME: return SqlClass::Time;
+    case SQL_TIMESTAMP:
+    case SQL_TYPE_TIMESTAMP: return SqlClass::DateAndTime;
+    default: return SqlClass::Text;
+    }
+}
+
+void beginUse(void *connection, SqlUse use)
+{
+    // Each in words of its own, and not every database knows how to read only; what it does all the same is undone
+    // after each statement.
+    const bool sqlite = isSqlite(connection);
+    if (sqlite)
+        run(connection, {"PRAGMA busy_timeout = 5000", {}}, {});
+    if (use == SqlUse::Reading && sqlite)
+        run(connection, {"PRAGMA query_only = 1", {}}, {});
+    else if (use == SqlUse::Reading)
+        for (const char *words :
+             {"SET SESSION CHARACTERISTICS AS TRANSACTION READ ONLY", "SET SESSION TRANSACTION READ ONLY"})
+            run(connection, {words, {}}, {});
+    SQLSetConnectAttr(connection, SQL_ATTR_AUTOCOMMIT, reinterpret_cast<SQLPOINTER>(SQL_AUTOCOMMIT_OFF), 0);
+}
+
+SqlResult readRows(void *connection, const SqlStatement &statement, const SqlLimits &limits)
+{
+    SqlResult result = run(connection, statement, limits);
+    SQLEndTran(SQL_HANDLE_DBC, connection, SQL_ROLLBACK);
+    return result;
+}
+
+SqlResult changeRows(void *connection, const SqlStatement &statement, std::optional<long> mostRows,
+                     const SqlLimits &limits)
+{
+    SqlResult result = run(connection, statement, limits);
+    if (result.error.empty() && mostRows && result.changed > *mostRows) {
+        result.error = "The statement would change " + std::to_string(result.changed) + " rows; nothing was changed.";
+        result.changed = 0;
+    }
+    const bool keep = result.error.empty();
+    if (!SQL_SUCCEEDED(SQLEndTran(SQL_HANDLE_DBC, connection, keep ? SQL_COMMIT : SQL_ROLLBACK)) && keep)
+        takeDiagnosis(SQL_HANDLE_DBC, connection, result);
+    return result;
+}
+
+bool connectionLost(const SqlResult &result) { return result.state.starts_with("08"); }
+
+} // namespace corvanta

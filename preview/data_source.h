@@ -1,0 +1,61 @@
+#pragma once
+
+#include "database/statement.h"
+#include "document/page.h"
+
+#include <functional>
+#include <list>
+#include <mutex>
+#include <optional>
+#include <string>
+
+// The connections of a preview, one to read and one to write for each data source that a page names. May be called
+// from many threads; statements run one after another.
+namespace corvanta {
+
+struct Credentials {
+    std::string user, password; // bytes of the code page
+};
+
+// Asks for the credentials of a data source (its name in bytes of the code page); none when nobody answers.
+using AskCredentials = std::function<std::optional<Credentials>(const std::string &source)>;
+
+// What a page says about its data source.
+struct PageSource {
+    std::string source;
+    Credentials credentials;
+    bool operator==(const PageSource &other) const
+    {
+        return source == other.source && credentials.user == other.credentials.user &&
+               credentials.password == other.credentials.password;
+    }
+};
+PageSource sourceOf(const Page &p);
+
+class DataSources {
+public:
+    explicit DataSources(AskCredentials asking) : ask(std::move(asking)) {}
+
+    // Both connect when they are first called, and again when the connection has gone. A failure is told in the
+    // result's error, without the password.
+    SqlResult read(const PageSource &source, const SqlStatement &statement, const SqlLimits &limits = {});
+    SqlResult change(const PageSource &source, const SqlStatement &statement, std::optional<long> mostRows);
+
+private:
+    struct Connected {
+        PageSource source;
+        Credentials used;
+        OdbcHandle reading{nullptr, nullptr}, writing{nullptr, nullptr};
+    };
+
+    SqlResult run(const PageSource &source, SqlUse use, const std::function<SqlResult(void *)> &work);
+    Connected &entryFor(const PageSource &source);
+    OdbcHandle connect(Connected &entry, SqlUse use);
+
+    AskCredentials ask;
+    std::mutex mutex;
+    OdbcHandle environment{nullptr, nullptr};
+    std::list<Connected> connections;
+};
+
+} // namespace corvanta
