@@ -11,6 +11,12 @@ namespace {
 
 constexpr const char *html = "text/html; charset=utf-8";
 
+// "3-5"; nothing else goes into an address.
+bool isRange(const std::string &text)
+{
+    return !text.empty() && text.size() < 24 && text.find_first_not_of("0123456789-") == std::string::npos;
+}
+
 PreviewAnswer redirection(const std::string &location) { return {303, "text/plain", {}, location}; }
 
 } // namespace
@@ -61,8 +67,10 @@ PreviewAnswer PreviewHost::answerPage(const std::string &name, const PreviewRequ
         return redirection(useObject(
             parts, {loaded, request, resultOf(parts, request), numberOf(request, record ? "row" : "from", 0)}));
     }
-    if (const std::string records = ownRecords(parts, loaded, request); !records.empty())
-        return redirection(records);
+    if (const std::string records = ownRecords(parts, loaded, request); !records.empty()) {
+        const std::string said = valueOf(request.query, "said");
+        return redirection(isRange(said) ? records + "&said=" + said : records);
+    }
     std::string address = pageLocation(name);
     for (const char *part : {"result", "row", "from"})
         if (const std::string value = valueOf(request.query, part); !value.empty())

@@ -17,6 +17,7 @@ struct ResultSet {
     PageSource source;
     SqlStatement statement;
     SqlResult data;
+    std::string ownPage;              // the page whose own statement this is; empty for a query
     std::string hitList, queryView;   // names of pages, bytes of the code page
     std::vector<TemplateValue> asked; // what the visitor asked for, by object name
 };

@@ -20,6 +20,12 @@ constexpr int soundHeight = 60; // pixels of the player below a page
 
 bool isType(const Page &p, PageKind kind) { return p.PageType == static_cast<std::int16_t>(kind); }
 
+bool hasGrid(const Page &p)
+{
+    return std::any_of(p.objects.begin(), p.objects.end(),
+                       [](const ObjectRecord &o) { return kindOf(o.kind) == Kind::Grid; });
+}
+
 // What a request shows of a result.
 struct Shown {
     ResultPtr result;
@@ -70,7 +76,7 @@ std::string actingCell(const Page &p, std::int16_t grid, const Shown &shown, lon
     if (code != action::none && code != action::viewRow)
         return "<button type=\"submit\" name=\"object\" value=\"" + std::to_string(grid) + ":" + std::to_string(row) +
                "\">" + content + "</button>";
-    if (shown.result->queryView.empty())
+    if (shown.result->queryView.empty() || (code == action::none && !shown.result->ownPage.empty()))
         return escapedUtf8(text);
     return "<a href=\"" + escapedUtf8(rowLocation(shown.result->queryView, shown.result->number, row)) + "\">" +
            content + "</a>";
@@ -130,10 +136,13 @@ void addState(Strip &strip, const LoadedPage &loaded, const Shown &shown)
 std::string ownRecords(HostParts &parts, const LoadedPage &loaded, const PreviewRequest &request)
 {
     const Page &p = loaded.page;
-    if (!(isType(p, PageKind::Record) || isType(p, PageKind::QueryView)) || isBlank(p.SelectStmt) ||
-        resultOf(parts, request))
+    const ResultPtr shown = resultOf(parts, request);
+    const bool showsRecords = isType(p, PageKind::Record) || isType(p, PageKind::QueryView);
+    if (!showsRecords || isBlank(p.SelectStmt) || (shown && shown->ownPage != loaded.name))
         return {};
     const FilledStatement filled = fillStatement(p, p.SelectStmt, ObjectValues(p.objects.size()));
+    if (shown && shown->statement.text == filled.statement.text) // the author has not changed it meanwhile
+        return {};
     JournalEntry failure;
     failure.kind = JournalEntry::Kind::Failure;
     failure.text = filled.failure;
@@ -145,9 +154,11 @@ std::string ownRecords(HostParts &parts, const LoadedPage &loaded, const Preview
     }
     ResultSet wanted;
     wanted.source = sourceOf(p);
-    wanted.queryView = loaded.name;
+    wanted.ownPage = wanted.queryView = loaded.name;
     const ResultPtr result = runQuery(parts, std::move(wanted), filled.statement);
-    return result ? rowLocation(loaded.name, result->number, 0) : std::string();
+    if (!result)
+        return {};
+    return hasGrid(p) ? rowsLocation(loaded.name, result->number, 0) : rowLocation(loaded.name, result->number, 0);
 }
 
 Strip stripOf(const HostParts &parts, const std::string &page, const PreviewRequest &request)

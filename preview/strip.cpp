@@ -7,7 +7,7 @@
 namespace corvanta {
 
 const char *const stripStyle =
-    R"css(#preview-strip{position:fixed;inset:auto 0 0 0;z-index:40000;max-height:45vh;overflow:auto;background:#20242c;color:#f4f5f7;font:13px/1.5 system-ui,sans-serif;border-top:2px solid #5b9bd5;direction:ltr;text-align:left}
+    R"css(#preview-strip{position:fixed;inset:auto 0 0 0;z-index:40000;max-height:40vh;overflow:auto;background:#20242c;color:#f4f5f7;font:13px/1.5 system-ui,sans-serif;border-top:2px solid #5b9bd5;direction:ltr;text-align:left}
 #preview-strip summary{padding:4px 10px;cursor:pointer}
 #preview-strip nav{padding:0 10px 4px}
 #preview-strip nav a{color:#9cc9f5;margin-right:14px}
@@ -46,6 +46,8 @@ const char *const stripScript = R"js('use strict';
   window.addEventListener('pagehide', rest);
   window.addEventListener('pageshow', watch);
   watch();
+  const room = document.getElementById('preview-room');
+  new ResizeObserver(() => { room.style.height = strip.offsetHeight + 'px'; }).observe(strip);
   const messages = [...document.querySelectorAll('dialog.preview-message')];
   const next = () => { const m = messages.shift(); if (m) { m.onclose = next; m.showModal(); } };
   next();
@@ -167,10 +169,11 @@ std::string percentEncoded(const std::string &utf8)
 
 std::string stripHtml(const Strip &strip)
 {
-    bool open = false;
+    bool open = false; // when there is more to tell than rows
     std::string entries;
     for (const JournalEntry &e : strip.entries) {
-        open = open || (isSaid(strip, e) && e.kind != JournalEntry::Kind::Message);
+        const bool plain = e.kind == JournalEntry::Kind::Message || e.kind == JournalEntry::Kind::Statement;
+        open = open || (isSaid(strip, e) && !(plain && e.error.empty()));
         entries += entryHtml(e, isSaid(strip, e));
     }
     return "<div id=\"preview-room\" style=\"top:" + std::to_string(strip.pageHeight) +
