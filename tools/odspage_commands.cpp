@@ -15,11 +15,7 @@ namespace {
 using AddCommand = void (*)(CLI::App &app, ToolRun &run);
 
 constexpr AddCommand commands[] = {
-    addDumpCommand,
-    addBuildCommand,
-    addSqlCommand,
-    addHtmlCommand,
-    addPreviewCommand,
+    addDumpCommand, addBuildCommand, addSqlCommand, addHtmlCommand, addPreviewCommand,
 };
 
 constexpr int usualCodePage = 1252, wrongUsage = 2;
@@ -59,7 +55,8 @@ int runOdspage(int argc, const char *const *argv, std::ostream &out, std::ostrea
             useCodePage(number);
             run.codePageGiven = true;
         },
-        "code page of the texts in the files: 874 or 1250 to 1258 (default 1252; for html and preview that of the language)");
+        "code page of the texts in the files: 874 or 1250 to 1258 (default 1252; for html and preview that of the "
+        "language)");
     for (const AddCommand add : commands)
         add(app, run);
     for (CLI::App *command : app.get_subcommands({}))
