@@ -165,7 +165,9 @@ std::string commandCaption(Command command)
     switch (command) {
     case Command::Undo: return undoName().empty() ? "&Undo" : "&Undo " + undoName();
     case Command::Redo: return redoName().empty() ? "&Redo" : "&Redo " + redoName();
-    case Command::SharedProperties: return "Properties of " + std::to_string(chosenObjects().size()) + " Ob&jects...";
+    case Command::SharedProperties:
+        return "Properties of " + (chosenObjects().size() < 2 ? "Several" : std::to_string(chosenObjects().size())) +
+               " Ob&jects...";
     default: return {};
     }
 }
