@@ -20,7 +20,6 @@ struct CanvasEvents {
     Event<> hideOutline;
     Event<const Rect &> showGroupFrame; // also moves a frame that is shown
     Event<> hideGroupFrame;
-    Event<std::int16_t> repaintUnder;  // a control that the outline has left
     Event<std::int16_t> emptyVisual;   // show a List Box or Text Box without its content
     Event<std::int16_t> restoreVisual; // show the content again
 };

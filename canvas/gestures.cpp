@@ -1,16 +1,13 @@
 #include "canvas/gestures.h"
 
-#include "canvas/control_grid.h"
 #include "canvas/selection.h"
 #include "document/events.h"
-#include "document/objects.h"
 
 namespace corvanta {
 
 namespace {
 
 Gesture state;
-ControlGrid controls;
 
 const ObjectRecord &record(std::int16_t index) { return page().objects[static_cast<std::size_t>(index)]; }
 
@@ -44,9 +41,10 @@ bool showsContent(std::int16_t index)
 
 void emptyPressedObject()
 {
-    state.emptied = showsContent(state.object);
-    if (state.emptied)
-        canvasEvents().emptyVisual(state.object);
+    if (!showsContent(state.object))
+        return;
+    state.emptied = controlOfObject(page(), state.object);
+    canvasEvents().emptyVisual(state.object);
 }
 
 // Ends the gesture: the page shows no trace of it.
@@ -56,8 +54,10 @@ void endGesture()
     const Gesture ended = state;
     state = {};
     state.ctrlclick = ended.ctrlclick;
-    if (ended.emptied && hasObject(page(), ended.object))
-        canvasEvents().restoreVisual(ended.object);
+    const auto [kind, element] = ended.emptied;
+    const std::int16_t index = element ? findObjectByControl(page(), static_cast<Kind>(kind), element) : noObject;
+    if (index != noObject) // neither deleted nor undone meanwhile
+        canvasEvents().restoreVisual(index);
 }
 
 void beginDrag(std::int16_t index, Point at)
@@ -71,7 +71,6 @@ void beginDrag(std::int16_t index, Point at)
     state.group = inMultiSelection(index);
     state.multbox = membersBounds(rectOf(record(index)));
     state.groupOrigin = {state.multbox.left, state.multbox.top};
-    controls.fill(page());
 }
 
 void outlineTo(const Rect &r)
@@ -144,7 +143,9 @@ void pressObject(std::int16_t index, const Mouse &mouse)
 
 void moveObject(const Mouse &mouse)
 {
-    if (!state.dragging || !mouse.left || mouse.otherButton || !unmodified(mouse))
+    if (state.dragging && !mouse.left) // its release went elsewhere
+        cancelGesture();
+    if (!state.dragging || mouse.otherButton || !unmodified(mouse))
         return;
     const Point at = inObject(mouse.at);
     if (at == Point{state.grabx, state.graby})
@@ -189,12 +190,13 @@ void pressHandle(Handle handle, const Mouse &mouse)
     state.handle = handle;
     state.grabx = mouse.at.x;
     state.graby = mouse.at.y;
-    controls.fill(page());
     drawOutline(rectOf(record(state.object)));
 }
 
 void moveHandle(const Mouse &mouse)
 {
+    if (state.resizing && !mouse.left)
+        cancelGesture();
     if (!state.resizing || mouse.at == Point{state.grabx, state.graby})
         return;
     state.moved = true;
@@ -243,11 +245,6 @@ void hideOutline()
     canvasEvents().hideOutline();
     if (state.group)
         canvasEvents().hideGroupFrame();
-}
-
-void refreshUnder(const Rect &r)
-{
-    controls.eachUnder(r, [](std::int16_t index) { canvasEvents().repaintUnder(index); });
 }
 
 void moveSelectionTo(const Rect &r)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "canvas/events.h"
+#include "document/objects.h"
 
 // Moving and resizing with the mouse on the process-wide page: press, move, release, cancel. The objects
 // stay where they are until the release; only the outline moves.
@@ -24,10 +25,10 @@ struct Gesture {
     bool moved = false;              // the mouse has moved since the press
     bool outlineShown = false;
     Rect outline;
-    bool group = false;   // the whole multi-selection moves
-    Rect multbox;         // the members' bounding rectangle, displaced
-    Point groupOrigin;    // of multbox at the press
-    bool emptied = false; // the pressed object's list or text is not shown
+    bool group = false;       // the whole multi-selection moves
+    Rect multbox;             // the members' bounding rectangle, displaced
+    Point groupOrigin;        // of multbox at the press
+    ControlReference emptied; // whose list or text is not shown; element 0 for none
 };
 
 const Gesture &gesture();
@@ -43,7 +44,7 @@ void pressHandle(Handle handle, const Mouse &mouse);
 void moveHandle(const Mouse &mouse);
 void releaseHandle(const Mouse &mouse);
 
-// Ends a gesture without a change (Esc). True when there was one.
+// Ends a gesture without a change (Esc, or the release will not come). True when there was one.
 bool cancelGesture();
 
 // Whether a double click or a key may open the current object's properties: there is one, and no move drag.
@@ -52,9 +53,8 @@ bool mayOpenProperties();
 void drawOutline(const Rect &r);
 void hideOutline();
 
-// Repaints the Buttons, List Boxes, Text Boxes, Tickers and Grids whose rectangles meet the given one, as they
-// were placed when the gesture began.
-void refreshUnder(const Rect &r);
+// Nothing: the widgets that a line of the outline leaves are painted again by the toolkit.
+inline void refreshUnder(const Rect &) {}
 
 // Applies the outline's rectangle to the current object, or in a group move multbox's displacement to every
 // member; a completed edit.

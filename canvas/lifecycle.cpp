@@ -17,9 +17,15 @@ void objectEntersCanvas(std::int16_t index)
         startTicker(page().ctlindex[i]);
 }
 
-void objectLeavesCanvas(std::int16_t index)
+void mouseTaken()
 {
     cancelGesture();
+    letTickersGo();
+}
+
+void objectLeavesCanvas(std::int16_t index)
+{
+    mouseTaken();
     if (inMultiSelection(index)) {
         removeFromMultiSelection(index);
         if (!hasMembers())
@@ -30,7 +36,7 @@ void objectLeavesCanvas(std::int16_t index)
 
 void resetCanvas()
 {
-    cancelGesture();
+    mouseTaken();
     clearMultiSelection();
     selectObject(noObject);
     clearRunning();

@@ -7,6 +7,7 @@
 #include "platform/multimedia.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace corvanta {
 
@@ -14,7 +15,7 @@ namespace {
 
 std::int32_t clockTenths() { return static_cast<std::int32_t>(tickCount() / 100); }
 
-void enableTimer(bool on) { runningEvents().enableTimer(on); }
+void enableTimer(bool on) { runningEvents().enableTimer(on && running().heldBy == 0); }
 
 const Frame &frameAt(const AnimationRun &run)
 {
@@ -162,15 +163,23 @@ void timerStep()
     state.busy = false;
 }
 
-void pressTicker()
+void pressTicker(int button)
 {
-    if (editing().msgflag)
-        enableTimer(false);
+    if (!editing().msgflag || running().heldBy != 0)
+        return;
+    running().heldBy = button;
+    enableTimer(false);
 }
 
-void releaseTicker()
+void releaseTicker(int button)
 {
-    if (editing().msgflag)
+    if (running().heldBy == button)
+        letTickersGo();
+}
+
+void letTickersGo()
+{
+    if (std::exchange(running().heldBy, 0) != 0)
         enableTimer(true);
 }
 

@@ -43,6 +43,7 @@ RunningEvents &runningEvents();
 struct RunningState {
     std::vector<RunningPair> list; // in the order of their start
     bool busy = false;             // a timer step is being carried out
+    int heldBy = 0;                // the mouse button that holds a ticker; 0 for none
     int twipsPerPixel = 15;
     int tickerLeft[maxTickers + 1] = {};             // twips, by element
     std::map<std::int16_t, AnimationRun> animations; // by element
@@ -63,8 +64,9 @@ void startAnimation(std::int16_t element);
 // One tick of objtimer.
 void timerStep();
 
-// The mouse went down on a ticker's frame, or came up again: everything pauses in between.
-void pressTicker();
-void releaseTicker();
+// A mouse button went down on a ticker's frame: everything pauses until the same one comes up again.
+void pressTicker(int button);
+void releaseTicker(int button);
+void letTickersGo(); // its release will not come
 
 } // namespace corvanta

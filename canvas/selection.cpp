@@ -108,8 +108,10 @@ void toggleMultiSelection(std::int16_t index)
     if (inMultiSelection(index)) {
         editing().multcount = record(index).selslot;
         removeFromMultiSelection(index);
-        if (!hasMembers()) // the commands act on the current object again
+        if (!hasMembers()) { // the commands act on the current object again
             editing().multcount = 0;
+            showTrackers();
+        }
         return;
     }
     if (editing().multcount == 0 && hasCurrentObject() && editing().curobj != index)

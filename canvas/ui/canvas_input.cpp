@@ -1,5 +1,6 @@
 #include "canvas/ui/canvas_input.h"
 
+#include "canvas/lifecycle.h"
 #include "canvas/running.h"
 #include "canvas/selection.h"
 #include "canvas/ui/visual.h"
@@ -9,6 +10,7 @@
 #include <QMouseEvent>
 
 #include <algorithm>
+#include <utility>
 
 namespace corvanta {
 
@@ -71,8 +73,23 @@ bool CanvasInput::eventFilter(QObject *watched, QEvent *event)
         if (pointed)
             pointed(noObject);
         return false;
+    case QEvent::FocusOut:
+    case QEvent::WindowDeactivate:
+    case QEvent::WindowBlocked:
+    case QEvent::EnabledChange:
+    case QEvent::Hide:
+        if (watched == &pageArea)
+            loseMouseAndKeys();
+        return false;
     default: return false;
     }
+}
+
+// The releases of what is held go to another window.
+void CanvasInput::loseMouseAndKeys()
+{
+    mouseTaken();
+    deleteHeld = false;
 }
 
 std::int16_t CanvasInput::objectAt(const QWidget &widget, QPoint at) const
@@ -93,7 +110,7 @@ bool CanvasInput::mouseEvent(QWidget &widget, const QMouseEvent &event)
         return handleEvent(static_cast<Handle>(box - boxes.begin()), event, mouse);
     const std::int16_t index = objectAt(widget, at);
     switch (event.type()) {
-    case QEvent::MouseButtonPress: press(index, mouse); break;
+    case QEvent::MouseButtonPress: press(index, event, mouse); break;
     case QEvent::MouseMove:
         moveObject(mouse);
         if (pointed)
@@ -118,11 +135,11 @@ bool CanvasInput::handleEvent(Handle handle, const QMouseEvent &event, const Mou
     return true;
 }
 
-void CanvasInput::press(std::int16_t index, const Mouse &mouse)
+void CanvasInput::press(std::int16_t index, const QMouseEvent &event, const Mouse &mouse)
 {
     pageArea.setFocus(Qt::MouseFocusReason);
     if (isKind(index, Kind::Ticker))
-        pressTicker();
+        pressTicker(event.button());
     pressObject(index, mouse);
 }
 
@@ -130,18 +147,18 @@ void CanvasInput::release(QWidget &widget, std::int16_t index, const QMouseEvent
 {
     const bool moved = gesture().moved;
     const bool inside = widget.rect().contains(event.position().toPoint());
-    if (isKind(index, Kind::Ticker))
-        releaseTicker();
+    const bool plain = mouse.left && !mouse.shift && !mouse.ctrl && !mouse.alt;
+    releaseTicker(event.button());
     releaseObject(index, mouse);
-    if (&widget != &pageArea && isKind(index, Kind::Button) && mouse.left && inside && !moved)
+    if (&widget != &pageArea && isKind(index, Kind::Button) && plain && inside && !moved)
         buttonClicked();
 }
 
-// A Button knows clicks only: for it a double click is one more press.
+// A Button knows clicks only: for it a double click is one more press. So it is with a modifier, which selects.
 void CanvasInput::doubleClick(std::int16_t index, const QMouseEvent &event, const Mouse &mouse)
 {
-    if (isKind(index, Kind::Button))
-        press(index, mouse);
+    if (isKind(index, Kind::Button) || mouse.shift || mouse.ctrl || mouse.alt)
+        press(index, event, mouse);
     else if (hasObject(page(), index) && event.button() == Qt::LeftButton)
         openProperties();
 }
@@ -170,13 +187,21 @@ bool CanvasInput::keyDown(const QKeyEvent &event)
 {
     if (event.key() == Qt::Key_Escape)
         return run(keyPressCommand(escapeCharacter));
+    if (event.key() == Qt::Key_Delete && !event.isAutoRepeat())
+        deleteHeld = true;
     const KeyModifiers held{event.modifiers().testFlag(Qt::ShiftModifier),
                             event.modifiers().testFlag(Qt::ControlModifier),
                             event.modifiers().testFlag(Qt::AltModifier)};
     return run(keyDownCommand(keyCode(event), held));
 }
 
-bool CanvasInput::keyUp(const QKeyEvent &event) { return !event.isAutoRepeat() && run(keyUpCommand(keyCode(event))); }
+// A Delete that went down elsewhere, in a dialog that is closed now, deletes nothing here.
+bool CanvasInput::keyUp(const QKeyEvent &event)
+{
+    if (event.isAutoRepeat() || (event.key() == Qt::Key_Delete && !std::exchange(deleteHeld, false)))
+        return false;
+    return run(keyUpCommand(keyCode(event)));
+}
 
 bool CanvasInput::run(CanvasCommand command)
 {

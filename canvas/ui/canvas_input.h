@@ -47,7 +47,8 @@ protected:
 private:
     bool mouseEvent(QWidget &widget, const QMouseEvent &event);
     bool handleEvent(Handle handle, const QMouseEvent &event, const Mouse &mouse);
-    void press(std::int16_t index, const Mouse &mouse);
+    void loseMouseAndKeys();
+    void press(std::int16_t index, const QMouseEvent &event, const Mouse &mouse);
     void release(QWidget &widget, std::int16_t index, const QMouseEvent &event, const Mouse &mouse);
     void doubleClick(std::int16_t index, const QMouseEvent &event, const Mouse &mouse);
     void buttonClicked();
@@ -60,6 +61,7 @@ private:
     EditformCommands &commands;
     ClickCounter clicks;
     QTimer tmdclk;
+    bool deleteHeld = false; // Delete went down on the canvas
 };
 
 } // namespace corvanta

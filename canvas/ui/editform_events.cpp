@@ -83,7 +83,6 @@ void Editform::listenToCanvas()
     connections.add(events.hideOutline, [this] { trackers.hideOutline(); });
     connections.add(events.showGroupFrame, [this](const Rect &r) { trackers.showGroupFrame(r); });
     connections.add(events.hideGroupFrame, [this] { trackers.hideGroupFrame(); });
-    // repaintUnder stays empty: where a line has left, the window system of the widgets paints by itself.
     connections.add(events.emptyVisual, [this](std::int16_t index) {
         changeLive(visuals.of(index), [](LiveState &live) { live.emptied = true; });
     });
@@ -133,6 +132,7 @@ void Editform::pageRestored(const Page &before)
     const auto lookOf = [](const Page &p) {
         return std::tie(p.bkgcol, p.bkght, p.bkgwd, p.pgflags, p.pgcaption, p.background);
     };
+    mouseTaken();
     trackers.hideAll();
     stopRunningWithoutObjects();
     visuals.follow(before, [this](std::int16_t index) { createVisual(index); });

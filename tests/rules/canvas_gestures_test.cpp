@@ -134,19 +134,32 @@ TEST_F(CanvasGestures, ContentIsHiddenFromTheFirstMoveToTheEnd)
     EXPECT_EQ(restored, emptied);
 }
 
-TEST_F(CanvasGestures, OnlyControlsUnderTheOldOutlineArePaintedAgain)
+TEST_F(CanvasGestures, AGestureEndsWithItsMouseOrItsObject)
 {
-    const auto wide = add(Kind::Grid, {-20, 60, 700, 30}); // in many cells, beyond the page
-    add(Kind::Label, {100, 50, 100, 20});
-    pressObject(a, left({110, 55}));
-    moveObject(left({111, 55}));
-    EXPECT_TRUE(repainted.empty());
-    moveObject(left({400, 300}));
-    EXPECT_EQ(repainted, std::vector<std::int16_t>{wide});
-    moveObject(left({112, 355}));
-    EXPECT_EQ(repainted, (std::vector<std::int16_t>{wide, c}));
-    moveObject(left({113, 355}));
-    EXPECT_EQ(repainted.size(), 2U);
+    const Rect before = rect(a);
+    const std::vector<std::function<void()>> ends{mouseTaken,
+                                                  [] {
+                                                      moveObject({.at = {150, 60}});
+                                                  },
+                                                  [] {
+                                                      moveHandle({.at = {150, 60}});
+                                                  },
+                                                  [this] { deleteObject(b); }, [this] { deleteObject(a); }};
+    for (const auto &end : ends)
+        for (const bool resize : {false, true}) {
+            click(a);
+            if (resize)
+                pressHandle(Handle::Right, left({199, 60}));
+            else
+                pressObject(a, left({110, 55}));
+            moveHandle(left({150, 60}));
+            moveObject(left({150, 60}));
+            if (&end == &ends[resize ? 1 : 2])
+                continue;
+            end();
+            EXPECT_FALSE(gesture().dragging || gesture().resizing || outline);
+            EXPECT_TRUE(!hasCurrentObject() || (trackers == before && rect(a) == before));
+        }
 }
 
 TEST_F(CanvasGestures, ResizeFollowsTheHandleInsideThePage)

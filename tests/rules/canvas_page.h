@@ -51,7 +51,7 @@ protected:
     }
 
     int edits = 0;
-    std::vector<std::int16_t> fronted, repainted, emptied, restored;
+    std::vector<std::int16_t> fronted, emptied, restored;
     std::optional<Rect> trackers, outline, groupFrame;
     std::map<std::int16_t, Rect> markers; // by slot
 
@@ -69,7 +69,6 @@ private:
         events.hideOutline.listen([this] { outline.reset(); });
         events.showGroupFrame.listen([this](const Rect &r) { groupFrame = r; });
         events.hideGroupFrame.listen([this] { groupFrame.reset(); });
-        events.repaintUnder.listen([this](std::int16_t index) { repainted.push_back(index); });
         events.emptyVisual.listen([this](std::int16_t index) { emptied.push_back(index); });
         events.restoreVisual.listen([this](std::int16_t index) { restored.push_back(index); });
     }

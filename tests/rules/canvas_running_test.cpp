@@ -78,6 +78,25 @@ TEST_F(CanvasRunning, TickerScrollsOutAndEntersAgain)
     EXPECT_EQ(tickerLeft, 540);
 }
 
+TEST_F(CanvasRunning, OnlyTheButtonThatHoldsATickerLetsItGo)
+{
+    editing().msgflag = true;
+    const std::int16_t index = add(Kind::Ticker, {10, 10, 40, 20});
+    pressTicker(1);
+    pressTicker(2);
+    releaseTicker(2);
+    add(Kind::Ticker, {10, 50, 40, 20});
+    EXPECT_FALSE(timer);
+    releaseTicker(1);
+    EXPECT_TRUE(timer);
+    for (const auto &end : {std::function<void()>(mouseTaken), {[index] { deleteObject(index); }}}) {
+        pressTicker(1);
+        EXPECT_FALSE(timer);
+        end();
+        EXPECT_TRUE(timer);
+    }
+}
+
 TEST_F(CanvasRunning, FramesStayForTheirDuration)
 {
     addAnimation({2, 5, 1});

@@ -30,6 +30,10 @@ TEST_F(CanvasSelection, CtrlClicksGiveAndFreeSlots)
     EXPECT_EQ(slot(c), 1);
     EXPECT_EQ(editing().multcount, 1);
     EXPECT_EQ(markers.at(1), rect(c));
+    EXPECT_FALSE(trackers);
+    ctrlClick(b);
+    ctrlClick(c);
+    EXPECT_EQ(trackers, rect(a)) << "nothing but the current object is left";
 }
 
 TEST_F(CanvasSelection, DeletedObjectsLeaveTheSelection)

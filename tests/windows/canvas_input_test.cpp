@@ -3,6 +3,9 @@
 #include "tests/windows/canvas_form.h"
 #include "tests/windows/drops.h"
 
+#include <QDialog>
+#include <QMenu>
+
 using namespace corvanta;
 
 namespace {
@@ -114,6 +117,9 @@ TEST_F(CanvasInputTest, DoubleClicksOpenProperties)
     EXPECT_TRUE(child("trbox0").isVisible());
     QTest::mouseDClick(&form.pageArea(), Qt::LeftButton, {}, QPoint(300, 250));
     EXPECT_EQ(opened, 1) << "nothing is current";
+    QTest::mouseClick(&child("lbl1"), Qt::LeftButton);
+    QTest::mouseDClick(&child("lbl1"), Qt::LeftButton, Qt::ControlModifier);
+    EXPECT_EQ(opened, 1) << "Ctrl selects";
     add(Kind::Image, QRect(200, 100, 80, 80));
     QTest::mouseDClick(&form.pageArea(), Qt::LeftButton, {}, QPoint(220, 150));
     EXPECT_EQ(opened, 2);
@@ -146,6 +152,43 @@ TEST_F(CanvasInputTest, KeysReachTheirCommands)
     for (const Qt::Key key : {Qt::Key_F, Qt::Key_P, Qt::Key_O, Qt::Key_H, Qt::Key_X})
         QTest::keyClick(&form.pageArea(), key, Qt::AltModifier);
     EXPECT_EQ(menus, "FPOH");
+    QTest::keyRelease(&form.pageArea(), Qt::Key_Delete);
+    QTest::keyPress(&form.pageArea(), Qt::Key_Delete);
+    QFocusEvent toDialog(QEvent::FocusOut);
+    QCoreApplication::sendEvent(&form.pageArea(), &toDialog);
+    QTest::keyRelease(&form.pageArea(), Qt::Key_Delete);
+    EXPECT_EQ(deleted, 1) << "only a key that goes down and comes up on the canvas deletes";
+}
+
+TEST_F(CanvasInputTest, ADragEndsWithWhateverTakesTheMouse)
+{
+    add(Kind::Ticker, QRect(60, 50, 90, 40));
+    const auto &objtimer = *form.findChild<QTimer *>("objtimer");
+    QMenu menu;
+    QDialog question(&form);
+    question.setModal(true);
+    const std::vector<std::function<void()>> takers{
+        [&] { menu.popup({}); },
+        [&] { question.show(); },
+        [&] { form.hide(); },
+        [&] { form.setEnabled(false); },
+    };
+    for (const auto &take : takers) {
+        form.activateWindow();
+        form.pageArea().setFocus();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+        QTest::mousePress(&child("tkr1"), Qt::LeftButton, {}, QPoint(5, 5));
+        QTest::mouseMove(&child("tkr1"), QPoint(25, 15));
+        EXPECT_TRUE(child("boxline0").isVisible() && !objtimer.isActive());
+        take();
+        EXPECT_FALSE(gesture().dragging || child("boxline0").isVisible());
+        EXPECT_TRUE(objtimer.isActive());
+        menu.close();
+        question.close();
+        form.show();
+        form.setEnabled(true);
+    }
+    EXPECT_EQ(recordRect(0), QRect(60, 50, 90, 40));
 }
 
 TEST_F(CanvasInputTest, AToolIsDroppedAtThePointAndKeptOnThePage)
