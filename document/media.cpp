@@ -94,6 +94,7 @@ void playPageSound()
 
 void loadPageMedia()
 {
+    const CollectedMessages collected;
     loadBackground();
     playPageSound();
     for (std::int16_t i = 0; i < objectCount(page()); ++i)

@@ -2,6 +2,7 @@
 
 #include "document/byte_codec.h"
 #include "document/events.h"
+#include "document/file_state.h"
 #include "document/history.h"
 #include "document/media.h"
 #include "document/objects.h"
@@ -43,6 +44,15 @@ void markSaved()
         editing().lentSize.reset();
     editing().pagedirty = false;
     markHistorySaved();
+}
+
+bool writePage(const std::string &path)
+{
+    if (!writeWholeFile(path, pageText()))
+        return false;
+    markSaved();
+    rememberFile(path);
+    return true;
 }
 
 FileDialog savePageDialog()
@@ -148,6 +158,7 @@ void newPage()
 {
     clearObjects();
     page() = Page();
+    rememberFile("");
     editing().lentSize.reset();
     setFileTag("");
     documentEvents().showCanvas();
@@ -161,7 +172,9 @@ void openPage(const std::string &path)
 {
     newPage();
     setFileTag(path);
+    const CollectedMessages collected;
     parsePage(page(), readWholeFile(path, fileLimit));
+    rememberFile(path);
     loadPageMedia();
     editing().curdir = directoryOfFile(path);
     resetHistory();
@@ -171,19 +184,28 @@ bool savePage()
 {
     if (editing().filetag.empty())
         return savePageAs();
-    if (!writeWholeFile(fileNamePart(editing().filetag), pageText()))
+    const SaveTarget target = saveTarget(editing().filetag);
+    if (target.cancelled)
         return false;
-    markSaved();
+    switch (mayReplace(target.path)) {
+    case SaveChoice::Save: break;
+    case SaveChoice::Elsewhere: return savePageAs();
+    case SaveChoice::Cancel: return false;
+    }
+    if (!writePage(target.path))
+        return false;
+    if (target.path != editing().filetag)
+        setFileTag(target.path);
     return true;
 }
 
 bool savePageAs()
 {
     const auto path = asking().fileDialog ? asking().fileDialog(savePageDialog()) : std::nullopt;
-    if (!path || path->empty() || !writeWholeFile(*path, pageText()))
+    if (!path || path->empty() || !writePage(*path))
         return false;
-    markSaved();
-    setFileTag(*path);
+    if (*path != editing().filetag)
+        setFileTag(*path);
     editing().curdir = directoryOfFile(*path);
     return true;
 }

@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 // Every question to the user goes through one struct of functions. The desktop fills it at start;
 // tests put a queue of expected questions in its place. All texts are bytes of the code page.
@@ -21,6 +22,9 @@ struct MessageBox {
     std::string title;
     Icon icon = Icon::Exclamation;
     Buttons buttons = Buttons::Ok;
+    std::string details = {}; // shown on demand, to scroll and copy
+    std::vector<std::string> captions =
+        {}; // buttons of its own in place of Buttons, with access keys; the last cancels
 };
 
 struct FileDialog {
@@ -38,6 +42,7 @@ using FontChoice = FontBlock;
 
 struct Asking {
     std::function<Answer(const MessageBox &)> messageBox;
+    std::function<std::size_t(const MessageBox &)> choice; // index of the pressed one of the box's captions
     // The chosen drive path; none on cancel. The chosen file's directory has become current.
     std::function<std::optional<std::string>(const FileDialog &)> fileDialog;
     std::function<std::optional<FontChoice>(const FontChoice &)> fontDialog;
@@ -51,6 +56,19 @@ struct Asking {
 Asking &asking();
 
 Answer showMessage(const MessageBox &box);
+// A question with captions of its own: the index of the pressed one. The last for Esc and without a desktop.
+std::size_t askChoice(const MessageBox &box);
+
+// While it lives, messages that only have an OK are told once for each title; what comes after is told in one further
+// message at the end, with all texts as its details. The outermost one counts.
+class CollectedMessages {
+public:
+    CollectedMessages();
+    ~CollectedMessages();
+    CollectedMessages(const CollectedMessages &) = delete;
+    CollectedMessages &operator=(const CollectedMessages &) = delete;
+};
+
 void showExclamation(std::string_view text, std::string_view title);
 
 // A one-line input dialog; parameter holds prompt, window caption and initial text, tab-separated. The

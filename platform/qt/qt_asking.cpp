@@ -11,6 +11,7 @@
 #include <QColorDialog>
 #include <QGridLayout>
 #include <QMessageBox>
+#include <QPushButton>
 
 namespace corvanta {
 
@@ -55,17 +56,41 @@ void widenForTitle(QMessageBox &box)
         grid->addItem(new QSpacerItem(wanted, 0), grid->rowCount(), 0, 1, grid->columnCount());
 }
 
-Answer showBox(const MessageBox &question, QWidget *owner)
+void fill(QMessageBox &box, const MessageBox &question)
 {
-    QMessageBox box(owner);
     box.setObjectName("messagebox");
     box.setTextFormat(Qt::PlainText);
     box.setWindowTitle(toQString(question.title));
     box.setText(toQString(question.text));
     box.setIcon(toQIcon(question.icon));
-    box.setStandardButtons(toQButtons(question.buttons));
+    if (!question.details.empty())
+        box.setDetailedText(toQString(question.details));
     widenForTitle(box);
+}
+
+Answer showBox(const MessageBox &question, QWidget *owner)
+{
+    QMessageBox box(owner);
+    fill(box, question);
+    box.setStandardButtons(toQButtons(question.buttons));
     return toAnswer(box.exec());
+}
+
+std::size_t showChoice(const MessageBox &question, QWidget *owner)
+{
+    QMessageBox box(owner);
+    fill(box, question);
+    QList<QAbstractButton *> buttons;
+    for (const std::string &caption : question.captions)
+        buttons << box.addButton(toQString(caption),
+                                 buttons.size() + 1 == static_cast<qsizetype>(question.captions.size())
+                                     ? QMessageBox::RejectRole
+                                     : QMessageBox::ActionRole);
+    box.setDefaultButton(static_cast<QPushButton *>(buttons.front()));
+    box.setEscapeButton(buttons.back());
+    box.exec();
+    const auto pressed = buttons.indexOf(box.clickedButton());
+    return static_cast<std::size_t>(pressed < 0 ? buttons.size() - 1 : pressed);
 }
 
 std::optional<std::int32_t> showColourDialog(std::int32_t initial, QWidget *owner)
@@ -92,6 +117,7 @@ void installAsking(std::function<QWidget *()> owner)
     };
     Asking &questions = asking();
     questions.messageBox = [window](const MessageBox &box) { return showBox(box, window()); };
+    questions.choice = [window](const MessageBox &box) { return showChoice(box, window()); };
     questions.fileDialog = [window](const FileDialog &dialog) { return showFileDialog(dialog, window()); };
     questions.fontDialog = [window](const FontChoice &choice) { return showFontDialog(choice, window()); };
     questions.colourDialog = [window](std::int32_t colour) { return showColourDialog(colour, window()); };

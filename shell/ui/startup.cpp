@@ -1,9 +1,11 @@
 #include "shell/ui/startup.h"
 
+#include "canvas/gestures.h"
 #include "canvas/running.h"
 #include "canvas/ui/drop_field.h"
 #include "canvas/ui/editform.h"
 #include "document/events.h"
+#include "document/file_state.h"
 #include "document/history.h"
 #include "document/page_file.h"
 #include "platform/asking.h"
@@ -44,6 +46,7 @@ EditorWindows::EditorWindows() : hpsedit(std::make_unique<Hpsedit>())
     addCommandKeys(*hpsedit);
     connectCommands();
     followSelection();
+    watchFile();
     connectSession();
     connectWindows();
 }
@@ -92,6 +95,16 @@ void EditorWindows::followSelection()
     connections.add(canvas.currentChanged, note);
     connections.add(canvas.placeFrameMarkers, [note](std::int16_t, const Rect &) { note(); });
     connections.add(canvas.hideFrameMarkers, [note](std::int16_t) { note(); });
+}
+
+// The author comes back from another program, which may have changed the page's file.
+void EditorWindows::watchFile()
+{
+    QObject::connect(qApp, &QGuiApplication::applicationStateChanged, hpsedit.get(), [this](Qt::ApplicationState now) {
+        const bool free = editform && hpsedit->isEnabled() && !QApplication::activeModalWidget();
+        if (now == Qt::ApplicationActive && free && !gesture().dragging && !gesture().resizing)
+            loadAgainIfChanged();
+    });
 }
 
 void EditorWindows::connectSession()

@@ -31,6 +31,7 @@ private:
     void loadCanvas();
     void connectCommands();
     void followSelection();
+    void watchFile();
     void connectSession();
     void connectWindows();
 

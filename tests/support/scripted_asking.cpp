@@ -19,6 +19,14 @@ std::string describe(const MessageBox &box)
            (box.buttons == Buttons::Ok ? ", Ok" : ", Yes No Cancel");
 }
 
+std::string describeChoice(const MessageBox &box)
+{
+    std::string captions;
+    for (const std::string &caption : box.captions)
+        captions += (captions.empty() ? "" : "|") + caption;
+    return "choice \"" + box.text + "\" titled \"" + box.title + "\": " + captions;
+}
+
 std::string describe(FileDialog::Kind kind)
 {
     return kind == FileDialog::Kind::Open ? "file dialog Open" : "file dialog Save";
@@ -29,6 +37,7 @@ std::string describe(FileDialog::Kind kind)
 ScriptedAsking::ScriptedAsking() : before(std::exchange(asking(), {}))
 {
     asking().messageBox = [this](const MessageBox &box) { return next(describe(box)).message; };
+    asking().choice = [this](const MessageBox &box) { return next(describeChoice(box)).choice; };
     asking().fileDialog = [this](const FileDialog &dialog) {
         fileDialogs.push_back(dialog);
         const auto answer = next(describe(dialog.kind)).text;
@@ -57,6 +66,13 @@ void ScriptedAsking::expectMessage(const std::string &text, const std::string &t
                                    Answer answer)
 {
     expected.push_back({.description = describe({text, title, icon, buttons}), .message = answer});
+}
+
+void ScriptedAsking::expectChoice(const std::string &text, const std::string &title, const std::string &captions,
+                                  std::size_t answer)
+{
+    expected.push_back(
+        {.description = "choice \"" + text + "\" titled \"" + title + "\": " + captions, .choice = answer});
 }
 
 void ScriptedAsking::expectFileDialog(FileDialog::Kind kind, const std::optional<std::string> &answer)

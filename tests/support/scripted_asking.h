@@ -24,6 +24,9 @@ public:
     void expectMessage(const std::string &text, const std::string &title, Icon icon = Icon::Exclamation,
                        Buttons buttons = Buttons::Ok, Answer answer = Answer::Ok);
     // The chosen drive path, whose directory becomes current; none cancels.
+    // A question with captions of its own, joined with "|", answered with the caption of this index.
+    void expectChoice(const std::string &text, const std::string &title, const std::string &captions,
+                      std::size_t answer);
     void expectFileDialog(FileDialog::Kind kind, const std::optional<std::string> &answer);
     void expectFontDialog(const std::optional<FontChoice> &answer);
     void expectColourDialog(std::optional<std::int32_t> answer);
@@ -37,6 +40,7 @@ private:
     struct Question {
         std::string description; // what is asked, compared with what was expected
         Answer message = Answer::Ok;
+        std::size_t choice = 99; // beyond all: cancels
         std::optional<std::string> text = {};
         std::optional<FontChoice> font = {};
         std::optional<std::int32_t> colour = {};

@@ -1,0 +1,87 @@
+#include "document/file_state.h"
+
+#include "document/events.h"
+#include "document/page.h"
+#include "document/page_file.h"
+#include "platform/asking.h"
+#include "platform/file_stamp.h"
+#include "platform/paths.h"
+#include "platform/text.h"
+
+namespace corvanta {
+
+namespace {
+
+constexpr const char *savingFile = "Saving File", *readingFile = "Reading File";
+
+struct Remembered {
+    std::string path;
+    std::optional<FileStamp> stamp;
+    std::optional<FileStamp> declined; // the author keeps the page although the file became this one
+};
+Remembered remembered;
+
+bool samePath(const std::string &a, const std::string &b) { return hostPath(a) == hostPath(b); }
+
+} // namespace
+
+void rememberFile(const std::string &path)
+{
+    remembered = {path, path.empty() ? std::nullopt : fileStamp(path), std::nullopt};
+}
+
+bool fileIsAnother(const std::string &path)
+{
+    if (path.empty() || !samePath(path, remembered.path))
+        return false;
+    const auto now = fileStamp(path);
+    return now && (!remembered.stamp || !sameFile(*now, *remembered.stamp));
+}
+
+SaveTarget saveTarget(const std::string &filetag)
+{
+    const std::string here = withTrailingBackslash(currentDirectory()) + fileNamePart(filetag);
+    if (samePath(here, filetag))
+        return {filetag};
+    switch (askChoice(
+        {.text = "This page was opened as " + filetag + ".\nThe current directory is another one now: " + here,
+         .title = savingFile,
+         .icon = Icon::Question,
+         .captions = {"Save where it was &opened", "Save in the &current directory", "Cancel"}})) {
+    case 0: return {filetag};
+    case 1: return {here};
+    default: return {{}, true};
+    }
+}
+
+SaveChoice mayReplace(const std::string &path)
+{
+    if (!fileIsAnother(path))
+        return SaveChoice::Save;
+    return static_cast<SaveChoice>(askChoice({.text = "Another program has changed " + path + " since it was read.",
+                                              .title = savingFile,
+                                              .captions = {"&Overwrite", "Save &elsewhere...", "Cancel"}}));
+}
+
+bool loadAgainIfChanged()
+{
+    const std::string path = editing().filetag;
+    if (!fileIsAnother(path))
+        return false;
+    const auto now = fileStamp(path);
+    if (remembered.declined && now && sameFile(*now, *remembered.declined))
+        return false;
+    if (editing().pagedirty &&
+        askChoice({.text = "Another program has changed " + path + ".\nLoading it again loses your changes.",
+                   .title = readingFile,
+                   .icon = Icon::Question,
+                   .captions = {"&Load again", "&Keep my page"}}) != 0) {
+        remembered.declined = now;
+        return false;
+    }
+    openPage(path);
+    documentEvents().notice("Loaded again: another program has changed the file.");
+    return true;
+}
+
+} // namespace corvanta

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string>
+
+// What the process-wide page's file was when the editor last read or wrote it.
+namespace corvanta {
+
+// After reading or writing the page's file, by drive path; an empty path for a new page.
+void rememberFile(const std::string &path);
+
+// Whether the file is there and is not what was remembered: changed or replaced by another program, or on another
+// device.
+bool fileIsAnother(const std::string &path);
+
+enum class SaveChoice { Save, Elsewhere, Cancel };
+
+// Where Save is to write the page of this file name (drive path). Asks with both paths when the current directory is
+// not the one that the page was opened from; none when the author cancelled.
+struct SaveTarget {
+    std::string path;
+    bool cancelled = false;
+};
+SaveTarget saveTarget(const std::string &filetag);
+
+// Asks before a file that is not what was remembered is replaced.
+SaveChoice mayReplace(const std::string &path);
+
+// Looks at the page's file when an editor window becomes active: a changed file is loaded again, at once when the page
+// has no changes, else when the author wants it. True when it was loaded.
+bool loadAgainIfChanged();
+
+} // namespace corvanta
