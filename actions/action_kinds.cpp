@@ -9,19 +9,13 @@ namespace corvanta {
 
 namespace {
 
-std::vector<ActionKind> &table()
-{
-    static std::vector<ActionKind> kinds;
-    return kinds;
-}
-
 // The template's first value is the code.
-void addKind(std::string caption, std::string actionTemplate, bool hasDialog)
+void addKind(std::vector<ActionKind> &table, std::string caption, std::string actionTemplate, bool hasDialog)
 {
     const auto code = static_cast<std::size_t>(ActionCode(actionTemplate));
-    if (code + 1 >= table().size())
-        table().resize(code + 2);
-    table()[code] = {std::move(caption), std::move(actionTemplate), hasDialog};
+    if (code + 1 >= table.size())
+        table.resize(code + 2);
+    table[code] = {std::move(caption), std::move(actionTemplate), hasDialog};
 }
 
 struct OfferedKind {
@@ -52,6 +46,19 @@ constexpr OfferedKind offeredKinds[] = {
     {action::messageBox, "Message Box", false, true},
 };
 
+// Filled once, whichever thread comes first, and never changed.
+const std::vector<ActionKind> &table()
+{
+    static const std::vector<ActionKind> filled = [] {
+        std::vector<ActionKind> kinds;
+        for (const OfferedKind &kind : offeredKinds)
+            addKind(kinds, kind.caption, kind.emptyValues ? encodeAction({kind.code, {}}) : encodeInt16(kind.code),
+                    kind.hasDialog);
+        return kinds;
+    }();
+    return filled;
+}
+
 char lowerLetter(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
 // Captions hold no letters beyond A to Z.
@@ -65,13 +72,7 @@ bool sameCaption(std::string_view a, std::string_view b)
 
 const std::vector<ActionKind> &actionKinds() { return table(); }
 
-void BuildActionKinds()
-{
-    table().clear();
-    for (const OfferedKind &kind : offeredKinds)
-        addKind(kind.caption, kind.emptyValues ? encodeAction({kind.code, {}}) : encodeInt16(kind.code),
-                kind.hasDialog);
-}
+void BuildActionKinds() { table(); }
 
 std::int16_t FindActionKind(std::string_view caption)
 {

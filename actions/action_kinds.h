@@ -14,9 +14,9 @@ struct ActionKind {
     bool hasDialog = false;
 };
 
-// The table of codes 0 to 523 with one empty entry after the highest code.
+// The table of codes 0 to 523 with one empty entry after the highest code; read-only, for any thread.
 const std::vector<ActionKind> &actionKinds();
-void BuildActionKinds(); // fills the table; called once at start-up
+void BuildActionKinds(); // fills the table, which else its first reader does; called once at start-up
 
 // The code whose caption equals the text, letter case ignored; -1 when none does.
 std::int16_t FindActionKind(std::string_view caption);

@@ -1,6 +1,10 @@
 #include "converter/address.h"
 
+#include "converter/convert.h"
+#include "converter/host_names.h"
 #include "converter/text.h"
+#include "document/media.h"
+#include "platform/codepage.h"
 #include "platform/text.h"
 
 #include <algorithm>
@@ -96,14 +100,34 @@ bool isSafe(std::string_view address)
         return address.size() > 7;
     if (scheme.empty())
         return !address.starts_with("//") || hasHost(address.substr(2));
-    const std::string_view rest = address.substr(scheme.size() + 1);
+    const std::string_view rest = address.substr(std::min(scheme.size() + 1, address.size()));
     return (scheme == "http" || scheme == "https" || scheme == "ftp") && rest.starts_with("//") &&
            hasHost(rest.substr(2));
 }
 
-bool isLocalDirectory(std::string_view path)
+// Relative without a way up, or of the web.
+bool isImageDirectory(std::string_view path)
 {
-    return path.starts_with('/') || path.starts_with('\\') || !safeAddress(path);
+    const auto address = safeAddress(path);
+    if (!address)
+        return false;
+    const std::string scheme = schemeOf(*address);
+    if (!scheme.empty())
+        return scheme == "http" || scheme == "https";
+    return !address->starts_with('/') && ("/" + *address + "/").find("/../") == std::string::npos;
+}
+
+bool endsWith(std::string_view name, std::string_view extension)
+{
+    return name.size() > extension.size() && sameText(name.substr(name.size() - extension.size()), extension);
+}
+
+// The host name of a file in a folder, found without regard to case; empty when there is none.
+std::string foundIn(const std::filesystem::path &folder, const std::string &name)
+{
+    std::error_code error;
+    const std::filesystem::path file = folder.empty() ? folder : fileIn(folder, name);
+    return !folder.empty() && std::filesystem::exists(file, error) ? file.filename().string() : std::string();
 }
 
 } // namespace
@@ -121,25 +145,33 @@ std::optional<std::string> safeAddress(std::string_view address)
 
 std::string nameAlone(std::string_view path)
 {
-    const std::string name = fileNamePart(trimmed(path));
-    return trimmed(std::string_view(name).substr(name.rfind('/') + 1));
+    std::string name = fileNamePart(trimmed(path));
+    name = trimmed(std::string_view(name).substr(name.rfind('/') + 1));
+    return plainFileName(name) && name != "." ? name : std::string();
 }
 
-std::string pageAddress(std::string_view pageName)
+std::string pageAddress(std::string_view pageName, const std::filesystem::path &folder)
 {
-    std::string name = cleanText(nameAlone(pageName));
-    if (name.size() > 4 && sameText(name.substr(name.size() - 4), ".ods"))
+    std::string name = nameAlone(pageName);
+    if (endsWith(name, ".ods") || endsWith(name, ".hts"))
         name.resize(name.size() - 4);
-    return percentEncoded(name.empty() ? "TOP" : name, inName) + ".hts";
+    if (isBlank(name))
+        name = "TOP";
+    const std::string page = foundIn(folder, name + ".ods");
+    return percentEncoded(page.empty() ? cleanText(name) + ".hts" : templateOf(page).string(), inName);
 }
 
-std::string mediaAddress(std::string_view fileName) { return percentEncoded(cleanText(nameAlone(fileName)), inName); }
+std::string mediaAddress(std::string_view fileName, const std::filesystem::path &folder)
+{
+    const std::string name = nameAlone(fileName), found = foundIn(folder, name);
+    return percentEncoded(name.empty() || found.empty() ? cleanText(name) : found, inName);
+}
 
 std::string imageAddress(std::string_view path, std::string_view objectName)
 {
     const std::string placeholder = percentEncoded(cleanText("@" + std::string(objectName) + "@"), inName);
     const std::string directory = trimmed(path);
-    if (directory.empty() || isLocalDirectory(directory))
+    if (directory.empty() || !isImageDirectory(directory))
         return placeholder;
     const std::string address = *safeAddress(directory);
     return address.ends_with('/') ? address + placeholder : address + "/" + placeholder;

@@ -65,9 +65,9 @@ void writeButton(Template &t, std::int16_t index)
     const ObjectRecord &o = recordOf(t, index);
     const Element &e = t.page.but[elementNumber(t, index)];
     const std::string &help = t.page.butextras[elementNumber(t, index)].balhelp;
-    const Target target = targetOf(o.actlist);
+    const Target target = targetOf(o.actlist, t.folder);
     std::string content;
-    if (const std::string image = mediaAddress(o.srcfile); !image.empty())
+    if (const std::string image = mediaAddress(o.srcfile, t.folder); !image.empty())
         content += "<img" + attribute("src", image) + " alt=\"\">";
     if (isBlank(e.Caption))
         content += hiddenText(isBlank(help) ? spokenName(t, index, target) : help);
@@ -82,7 +82,7 @@ void writeButton(Template &t, std::int16_t index)
 void writeHotSpot(Template &t, std::int16_t index)
 {
     const ObjectRecord &o = recordOf(t, index);
-    const Target target = targetOf(o.actlist);
+    const Target target = targetOf(o.actlist, t.folder);
     place(t, index, "");
     const std::string attributes = attribute("id", idOf(index)) + optionalAttribute("title", o.sptext);
     t.objects += control(t, index, target, "a", attributes, hiddenText(spokenName(t, index, target))) + "\n";
@@ -92,7 +92,7 @@ void writeLabel(Template &t, std::int16_t index)
 {
     const ObjectRecord &o = recordOf(t, index);
     const Element &e = t.page.lbl[elementNumber(t, index)];
-    const Target target = targetOf(o.actlist);
+    const Target target = targetOf(o.actlist, t.folder);
     const std::int16_t field = t.labels.fieldOf[static_cast<std::size_t>(index)];
     place(t, index, captionDeclarations(e) + cssAlignment(o.alignment));
     std::string attributes = attribute("id", idOf(index)) + " class=\"text\"" + optionalAttribute("title", o.sptext);

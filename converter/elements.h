@@ -5,6 +5,7 @@
 #include "document/page.h"
 
 #include <cstdint>
+#include <filesystem>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,9 +16,13 @@ namespace corvanta {
 
 // A template that is being written. All texts are UTF-8.
 struct Template {
-    explicit Template(const Page &p) : page(p), labels(fieldLabels(p)), names(fieldNames(p)) {}
+    Template(const Page &p, const std::filesystem::path &host)
+        : page(p), folder(host), labels(fieldLabels(p)), names(fieldNames(p))
+    {
+    }
 
     const Page &page;
+    const std::filesystem::path &folder; // host path of the page directory; empty when it is not to be looked into
     FieldLabels labels;
     std::vector<std::string> names; // form names by object
     std::string style;              // rules by id

@@ -1,14 +1,18 @@
 #include "converter/address.h"
 #include "converter/css.h"
 #include "converter/elements.h"
+#include "converter/host_names.h"
 #include "converter/parts.h"
 #include "converter/text.h"
+#include "platform/host_files.h"
 
 #include <algorithm>
 
 namespace corvanta {
 
 namespace {
+
+constexpr std::size_t textFileLimit = 32650; // bytes
 
 constexpr int sunkenEdges = 4;                                         // pixels above and below a list together
 constexpr double lineHeight = 1.2;                                     // of a font's pixels
@@ -62,6 +66,17 @@ std::string placeholder(const Template &t, const ObjectRecord &o)
     return showsRecord && !isBlank(o.datacol) && !isBlank(o.ctlname) ? "@" + o.ctlname + "@" : std::string();
 }
 
+// The text of the field's file in the page directory; what cannot be read is empty.
+std::string fileText(const Template &t, std::int16_t index)
+{
+    const std::string name = nameAlone(recordOf(t, index).srcfile);
+    if (t.folder.empty() || name.empty())
+        return t.page.tbx[elementNumber(t, index)].Caption;
+    std::string text = readHostFile(fileIn(t.folder, name), textFileLimit).bytes;
+    std::erase(text, '\x1A');
+    return text;
+}
+
 // The placeholder, else the text of the field's file; a password never has a value.
 std::string textBoxValue(const Template &t, std::int16_t index)
 {
@@ -69,7 +84,7 @@ std::string textBoxValue(const Template &t, std::int16_t index)
     if (t.page.tbxextras[elementNumber(t, index)].sysobj == password)
         return {};
     const std::string value = placeholder(t, o);
-    return value.empty() && !isBlank(o.srcfile) ? t.page.tbx[elementNumber(t, index)].Caption : value;
+    return value.empty() && !isBlank(o.srcfile) ? fileText(t, index) : value;
 }
 
 std::string lengthAndLock(const ObjectRecord &o, const TextBoxExtras &x, bool isText)
@@ -145,7 +160,7 @@ void writeListBox(Template &t, std::int16_t index)
 void writeFile(Template &t, std::int16_t index)
 {
     const ObjectRecord &o = recordOf(t, index);
-    const Target target = targetOf(o.actlist);
+    const Target target = targetOf(o.actlist, t.folder);
     const bool alone = target.kind == Target::Kind::None;
     std::string input =
         "<input type=\"file\"" + fieldAttributes(t, index, "f") + (o.has(readonlyFlag) ? " disabled>" : ">");

@@ -51,7 +51,7 @@ void writeGrid(Template &t, std::int16_t index)
 {
     const ObjectRecord &o = recordOf(t, index);
     const Element &e = t.page.grd[elementNumber(t, index)];
-    const Target target = targetOf(o.actlist);
+    const Target target = targetOf(o.actlist, t.folder);
     const std::size_t columns = gridColumnCount(t.page);
     place(t, index, cssFont(e.font) + "background:" + cssColour(e.BackColor) + ";");
     std::string table;

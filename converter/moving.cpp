@@ -25,7 +25,7 @@ void writeTicker(Template &t, std::int16_t index)
 {
     const ObjectRecord &o = recordOf(t, index);
     const Element &e = t.page.tkr[elementNumber(t, index)];
-    const Target target = targetOf(o.actlist);
+    const Target target = targetOf(o.actlist, t.folder);
     place(t, index,
           cssFont(e.font) + "background:" + cssColour(e.BackColor) + ";" +
               (e.BorderStyle == 1 ? "border:1px solid #000;" : "") +

@@ -1,59 +1,41 @@
 #include "converter/ods2hts.h"
 
-#include "document/page_file.h"
-#include "platform/files.h"
-#include "platform/text.h"
+#include "converter/convert.h"
+#include "converter/host_names.h"
+#include "platform/codepage.h"
 
-#include <algorithm>
 #include <exception>
-
-namespace corvanta {
+#include <string>
 
 namespace {
 
-constexpr std::size_t extensionLength = 3, textFileLimit = 32650; // bytes
+using namespace corvanta;
 
-// The texts that Text Boxes show from files beside the page; what cannot be read is empty.
-void loadTextFiles(Page &p, const std::string &directory)
-{
-    for (std::int16_t i = 0; i < objectCount(p); ++i) {
-        const ObjectRecord &o = p.objects[static_cast<std::size_t>(i)];
-        if (kindOf(o.kind) != Kind::TextBox || trimmed(o.srcfile).empty())
-            continue;
-        std::string &text = elementOf(p, i)->Caption;
-        text = readFile(directory + fileNamePart(trimmed(o.srcfile)), textFileLimit).bytes;
-        std::erase(text, '\x1A');
-    }
-}
+thread_local std::string lastFailure;
 
-bool convert(const std::string &path)
+std::string failureOf(const char *path, int codePage)
 {
-    const std::string target = templatePath(path);
-    const FileContent file = readFile(path, fileLimit);
-    // A name shorter than an extension would give a template in another directory.
-    const bool beside = directoryPart(target) == directoryPart(path);
-    if (file.bytes.empty() || !beside || sameText(target, path))
-        return false;
-    Page p;
-    parsePage(p, file.bytes);
-    loadTextFiles(p, directoryPart(path));
-    return !writeFileAtomically(target, htmlTemplate(p));
+    const CodePageOfThread texts(codePage);
+    if (!texts)
+        return "unknown code page " + std::to_string(codePage);
+    if (path == nullptr || *path == '\0')
+        return "no such file";
+    return convertPageFile(hostFile(path));
 }
 
 } // namespace
 
-std::string templatePath(std::string_view pagePath)
-{
-    return std::string(pagePath.substr(0, pagePath.size() - std::min(pagePath.size(), extensionLength))) + "hts";
-}
+extern "C" std::int16_t ConvertOdsHts(const char *path) { return ConvertOdsHtsCodePage(path, codePageOfEnvironment()); }
 
-} // namespace corvanta
-
-extern "C" std::int16_t ConvertOdsHts(const char *path)
+extern "C" std::int16_t ConvertOdsHtsCodePage(const char *path, std::int32_t codePage)
 {
+    lastFailure.clear();
     try {
-        return path && corvanta::convert(path) ? 1 : 0;
-    } catch (const std::exception &) { // the caller may be of another language
-        return 0;
+        lastFailure = failureOf(path, codePage);
+    } catch (const std::exception &error) { // the caller may be of another language
+        lastFailure = error.what();
     }
+    return lastFailure.empty() ? 1 : 0;
 }
+
+extern "C" const char *ConvertOdsHtsMessage() { return lastFailure.c_str(); }

@@ -1,24 +1,36 @@
-#pragma once
+#ifndef ODS2HTS_H
+#define ODS2HTS_H
 
-#include "document/page.h"
+/* The HTML template converter of the Corvanta Form Editor. Any number of threads may call it. */
 
-#include <cstdint>
-#include <string>
-#include <string_view>
+#include <stdint.h>
 
-// The HTML template converter. docs/html-template.md tells what each object and action becomes.
+#if defined(__GNUC__)
+#define ODS2HTS_API __attribute__((visibility("default")))
+#else
+#define ODS2HTS_API
+#endif
 
-// Writes the template of a page file beside it: the path with its last three characters replaced by "hts".
-// The path is a drive path, bytes of the code page, ended by NUL. Non-zero when the template was written,
-// 0 when the page could not be read or the template not be written. Asks and tells nothing.
-extern "C" [[gnu::visibility("default")]] std::int16_t ConvertOdsHts(const char *path);
+#ifdef __cplusplus
+extern "C" {
+#endif
 
-namespace corvanta {
+/* Writes the template of a page file beside it: the path with its last three characters replaced by "hts".
+   path: a drive path ("C:\PAGES\MENU.ODS"; "C:" is the host's root) or a relative one, which starts from the
+   process's current directory at the time of the call; "\" and "/" separate. Ended by NUL. Path and texts of the page
+   are bytes of the code page of the user's language (LC_ALL, LC_CTYPE, LANG).
+   Returns 0 when the page could not be read or the template not be written. Asks and tells nothing. */
+ODS2HTS_API int16_t ConvertOdsHts(const char *path);
 
-// The template path of a page file's path.
-std::string templatePath(std::string_view pagePath);
+/* The same with a Windows code page of the caller's choice: 874 or 1250 to 1258. */
+ODS2HTS_API int16_t ConvertOdsHtsCodePage(const char *path, int32_t codePage);
 
-// The HTML template of a page, in UTF-8. The Caption of a Text Box that names a text file is the file's text.
-std::string htmlTemplate(const Page &p);
+/* Why the last conversion in this thread failed, in UTF-8; empty when it did not. Valid until the thread's next
+   conversion. */
+ODS2HTS_API const char *ConvertOdsHtsMessage(void);
 
-} // namespace corvanta
+#ifdef __cplusplus
+}
+#endif
+
+#endif

@@ -1,7 +1,7 @@
 #include "converter/address.h"
 #include "converter/css.h"
 #include "converter/elements.h"
-#include "converter/ods2hts.h"
+#include "converter/html_template.h"
 #include "converter/parts.h"
 #include "converter/text.h"
 #include "platform/codepage.h"
@@ -97,12 +97,13 @@ std::string title(const Page &p)
     return heading(p, characters);
 }
 
-std::string pageRule(const Page &p)
+std::string pageRule(const Template &t)
 {
+    const Page &p = t.page;
     std::string rule = ".page{position:absolute;left:0;top:0;width:" + std::to_string(std::max<int>(p.bkgwd, 0)) +
                        "px;height:" + std::to_string(std::max<int>(p.bkght, 0)) +
                        "px;background:" + cssColour(p.bkgcol);
-    if (const std::string image = mediaAddress(p.bkgfile); !image.empty())
+    if (const std::string image = mediaAddress(p.bkgfile, t.folder); !image.empty())
         rule += " url(\"" + image + "\") no-repeat";
     return rule + "}\n";
 }
@@ -113,14 +114,14 @@ std::string belowPage(const Page &p)
 }
 
 // A page's sound waits for the visitor below the page.
-std::string sound(const Page &p)
+std::string sound(const Template &t)
 {
-    const std::string address = mediaAddress(p.sndfn);
+    const std::string address = mediaAddress(t.page.sndfn, t.folder);
     if (address.empty())
         return {};
     return element("audio",
                    " class=\"below\" controls preload=\"none\"" + attribute("src", address) +
-                       attribute("aria-label", nameAlone(p.sndfn)),
+                       attribute("aria-label", nameAlone(t.page.sndfn)),
                    "") +
            "\n";
 }
@@ -147,19 +148,19 @@ std::string head(const Template &t)
     return "<meta charset=\"utf-8\">\n" + element("title", "", title(t.page)) +
            "\n<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n" +
            element("style", "",
-                   "\n" + std::string(commonRules) + pageRule(t.page) + belowPage(t.page) + t.style + reducedMotion) +
+                   "\n" + std::string(commonRules) + pageRule(t) + belowPage(t.page) + t.style + reducedMotion) +
            "\n";
 }
 
 } // namespace
 
-std::string htmlTemplate(const Page &p)
+std::string htmlTemplate(const Page &p, const std::filesystem::path &folder)
 {
-    Template t(p);
+    Template t(p, folder);
     for (const std::int16_t index : documentOrder(p))
         writeElement(t, index);
     const std::string main = "\n" + element("h1", " class=\"hidden\"", heading(p, std::string::npos)) + "\n" + form(t) +
-                             t.dialogs + sound(p);
+                             t.dialogs + sound(t);
     const std::string direction = (p.pgflags & rtlFlag) != 0 ? "rtl" : "ltr";
     return "<!DOCTYPE html>\n" +
            element("html", attribute("lang", language()) + attribute("dir", direction),

@@ -77,7 +77,7 @@ std::string stackedFrames(Template &t, std::int16_t index, const std::vector<Fra
     std::string content;
     int start = 0;
     for (std::size_t i = 0; i < frames.size(); ++i) {
-        const std::string id = idOf(index, "f" + std::to_string(i)), address = mediaAddress(frames[i].image);
+        const std::string id = idOf(index, "f" + std::to_string(i)), address = mediaAddress(frames[i].image, t.folder);
         const int end = start + std::max<int>(frames[i].duration, 0);
         const bool shown = timing.whole > 0 ? end > start : i == 0;
         if (shown && !address.empty()) {
@@ -95,8 +95,8 @@ std::string stackedFrames(Template &t, std::int16_t index, const std::vector<Fra
 void writeImage(Template &t, std::int16_t index)
 {
     const ObjectRecord &o = recordOf(t, index);
-    const Target target = targetOf(o.actlist);
-    const std::string address = mediaAddress(fieldAt(o.srcfile, 0)), id = attribute("id", idOf(index));
+    const Target target = targetOf(o.actlist, t.folder);
+    const std::string address = mediaAddress(fieldAt(o.srcfile, 0), t.folder), id = attribute("id", idOf(index));
     const bool acts = target.kind != Target::Kind::None;
     place(t, index, std::string(address.empty() ? emptyArea : "") + (acts ? "" : "pointer-events:none;"));
     if (!acts && !address.empty()) {
@@ -123,7 +123,7 @@ void writeImageDb(Template &t, std::int16_t index)
 void writeAnimation(Template &t, std::int16_t index)
 {
     const ObjectRecord &o = recordOf(t, index);
-    const Target target = targetOf(o.actlist);
+    const Target target = targetOf(o.actlist, t.folder);
     place(t, index, "overflow:visible;");
     std::string content = stackedFrames(t, index, framesOfAnimation(t, index));
     if (target.kind != Target::Kind::None || !isBlank(o.sptext))

@@ -9,14 +9,6 @@ namespace corvanta {
 
 namespace {
 
-// The tools come here without the editor's start-up, which fills the table.
-std::string captionOf(std::int16_t code)
-{
-    if (actionKind(action::goToPage).caption.empty())
-        BuildActionKinds();
-    return actionKind(code).caption;
-}
-
 std::string valueOf(const Action &a, std::size_t n) { return n < a.values.size() ? a.values[n] : std::string(); }
 
 Target link(std::string address, std::string caption)
@@ -26,22 +18,23 @@ Target link(std::string address, std::string caption)
 
 } // namespace
 
-Target targetOf(std::string_view actionText)
+Target targetOf(std::string_view actionText, const std::filesystem::path &folder)
 {
     const Action a = decodeAction(actionText);
     switch (a.code) {
     case action::none: return {};
     case action::goToPage: {
         const std::string name = nameAlone(valueOf(a, 0));
-        return link(pageAddress(name), isBlank(name) ? "TOP" : name);
+        return link(pageAddress(name, folder), isBlank(name) ? "TOP" : name);
     }
     case action::goToUrl: {
         const auto address = safeAddress(valueOf(a, 0));
         return address ? link(*address, valueOf(a, 0)) : Target{};
     }
-    case action::resetForm: return {Target::Kind::Reset, {}, {}, {}, captionOf(a.code)};
-    case action::messageBox: return {Target::Kind::Message, {}, valueOf(a, 0), valueOf(a, 1), captionOf(a.code)};
-    default: return {Target::Kind::Submit, {}, {}, {}, captionOf(a.code)};
+    case action::resetForm: return {Target::Kind::Reset, {}, {}, {}, actionKind(a.code).caption};
+    case action::messageBox:
+        return {Target::Kind::Message, {}, valueOf(a, 0), valueOf(a, 1), actionKind(a.code).caption};
+    default: return {Target::Kind::Submit, {}, {}, {}, actionKind(a.code).caption};
     }
 }
 

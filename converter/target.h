@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 #include <string>
 #include <string_view>
 
@@ -21,6 +22,7 @@ struct Target {
     std::string caption; // what to call the action where the object has no text of its own
 };
 
-Target targetOf(std::string_view actionText);
+// The links to pages are those of the page's folder, a host path; it may be empty.
+Target targetOf(std::string_view actionText, const std::filesystem::path &folder);
 
 } // namespace corvanta

@@ -68,6 +68,38 @@ FileDialog savePageDialog()
     return dialog;
 }
 
+// A codec that only looks whether a record is there as a whole.
+class WholeRecord {
+public:
+    explicit WholeRecord(std::string_view bytes) : rest(bytes) {}
+    bool whole() const { return complete && rest.empty(); }
+
+    void int16(const char *, std::int16_t) { take(2); }
+    void int32(const char *, std::int32_t) { take(4); }
+    void text(const char *, const std::string &)
+    {
+        complete = complete && rest.size() >= 2;
+        const std::int16_t length = decodeInt16(rest);
+        complete = complete && length >= 0;
+        take(complete ? static_cast<std::size_t>(length) : 0);
+    }
+    void optionalText(const char *name, const std::string &value)
+    {
+        if (!rest.empty())
+            text(name, value);
+    }
+
+private:
+    std::string_view rest;
+    bool complete = true;
+
+    void take(std::size_t bytes)
+    {
+        complete = complete && bytes <= rest.size();
+        rest.remove_prefix(std::min(bytes, rest.size()));
+    }
+};
+
 void readPageHeader(Page &p, std::string_view header)
 {
     ByteReader reader(header, p.pgversion);
@@ -126,6 +158,19 @@ void parsePage(Page &p, std::string_view text)
     }
     while (!text.empty())
         createVisual(p, decodeString(text));
+}
+
+bool isPageFile(std::string_view bytes)
+{
+    const std::int16_t length = decodeInt16(bytes);
+    if (length <= 0 || static_cast<std::size_t>(length) > bytes.size())
+        return false;
+    std::string_view header = bytes.substr(0, static_cast<std::size_t>(length));
+    WholeRecord record(header);
+    const Page any;
+    headerFields(record, any);
+    const std::int16_t version = decodeInt16(header);
+    return version > 0 && version <= currentVersion && record.whole();
 }
 
 std::string readWholeFile(std::string_view path, std::size_t limit)

@@ -22,6 +22,9 @@ std::string pageText();
 // empty. The page is expected to be new.
 void parsePage(Page &p, std::string_view text);
 
+// Whether bytes can be a page file: its header stands there whole and is of a known version.
+bool isPageFile(std::string_view bytes);
+
 // The file's whole content; empty on any failure, which is told while msgflag is set.
 std::string readWholeFile(std::string_view path, std::size_t limit);
 // True when the text was written; a failure is told. Texts of 16,385 bytes or more are refused.

@@ -3,12 +3,16 @@
 #include "converter/ods2hts.h"
 #include "document/page_file.h"
 #include "platform/asking.h"
+#include "platform/codepage.h"
 
 namespace corvanta {
 
 namespace {
 
-void tell(const std::string &text) { showMessage({text, "Corvanta HTML convert", Icon::None, Buttons::Ok}); }
+void tell(const std::string &text, const std::string &detail = {})
+{
+    showMessage({text, "Corvanta HTML convert", Icon::None, Buttons::Ok, detail});
+}
 
 // False when the author cancelled or the save did not succeed.
 bool saveFirst()
@@ -27,8 +31,8 @@ void ConvertToHtml()
     if (!saveFirst() || editing().filetag.empty())
         return;
     const std::string &path = editing().filetag;
-    if (ConvertOdsHts(path.c_str()) == 0)
-        return tell("Error converting " + path);
+    if (ConvertOdsHtsCodePage(path.c_str(), codePageNumber()) == 0)
+        return tell("Error converting " + path, fromUtf8Lossy(ConvertOdsHtsMessage()));
     const std::string templatePath = path.substr(0, path.size() < 3 ? 0 : path.size() - 3) + "hts";
     tell("The file " + templatePath + " has been saved\ras an HTML template.\rYou may edit it using any HTML Editor");
 }

@@ -41,9 +41,9 @@ void tellFurther(const OfOneTitle &messages)
     const std::size_t count = messages.further.size();
     box.text = count == 1 ? messages.further.front() : std::to_string(count) + " further messages.";
     for (const std::string &text : messages.further)
-        box.details += text + '\n';
+        box.further += text + '\n';
     if (count == 1)
-        box.details.clear();
+        box.further.clear();
     showMessage(box);
 }
 

@@ -4,34 +4,53 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <cstdlib>
 #include <utility>
+#include <vector>
 
 namespace corvanta {
+
+struct CodePage {
+    const CodePageTable *table;
+    std::array<std::pair<char16_t, unsigned char>, 128> reverse; // sorted by character
+
+    explicit CodePage(const CodePageTable &ofNumber) : table(&ofNumber)
+    {
+        for (unsigned i = 0; i < reverse.size(); ++i)
+            reverse[i] = {table->upperHalf[i], static_cast<unsigned char>(0x80 + i)};
+        std::sort(reverse.begin(), reverse.end());
+    }
+};
 
 namespace {
 
 constexpr char32_t malformed = 0xFFFFFFFF, replacement = 0xFFFD;
 
-struct CurrentCodePage {
-    const CodePageTable *table = nullptr;
-    std::array<std::pair<char16_t, unsigned char>, 128> reverse; // sorted by character
-
-    explicit CurrentCodePage(const CodePageTable &newTable) { set(newTable); }
-
-    void set(const CodePageTable &newTable)
-    {
-        table = &newTable;
-        for (unsigned i = 0; i < reverse.size(); ++i)
-            reverse[i] = {newTable.upperHalf[i], static_cast<unsigned char>(0x80 + i)};
-        std::sort(reverse.begin(), reverse.end());
-    }
-};
-
-CurrentCodePage &current()
+// All of them are made once and only read from then on, by any thread.
+const std::vector<CodePage> &codePages()
 {
-    static CurrentCodePage page(codePageTables().front());
-    return page;
+    static const std::vector<CodePage> pages(codePageTables().begin(), codePageTables().end());
+    return pages;
+}
+
+const CodePage *findCodePage(int number)
+{
+    for (const CodePage &page : codePages())
+        if (page.table->number == number)
+            return &page;
+    return nullptr;
+}
+
+std::atomic<const CodePage *> ofProcess = nullptr;
+thread_local const CodePage *ofThread = nullptr;
+
+const CodePage &current()
+{
+    if (ofThread)
+        return *ofThread;
+    const CodePage *page = ofProcess.load(std::memory_order_relaxed);
+    return page ? *page : codePages().front();
 }
 
 struct LanguageCodePage {
@@ -109,14 +128,21 @@ char32_t takeCharacter(std::string_view &utf8)
 
 bool setCodePage(int number)
 {
-    for (const CodePageTable &table : codePageTables()) {
-        if (table.number == number) {
-            current().set(table);
-            return true;
-        }
-    }
-    return false;
+    const CodePage *page = findCodePage(number);
+    if (page)
+        ofProcess = page;
+    return page != nullptr;
 }
+
+CodePageOfThread::CodePageOfThread(int number) : former(ofThread)
+{
+    const CodePage *page = findCodePage(number);
+    known = page != nullptr;
+    if (page)
+        ofThread = page;
+}
+
+CodePageOfThread::~CodePageOfThread() { ofThread = former; }
 
 int codePageNumber() { return current().table->number; }
 

@@ -14,6 +14,23 @@ bool setCodePage(int number);
 
 int codePageNumber();
 
+struct CodePage;
+
+// A code page for the thread that makes it, as long as it lives; other threads keep theirs.
+class CodePageOfThread {
+public:
+    explicit CodePageOfThread(int number);
+    ~CodePageOfThread();
+    CodePageOfThread(const CodePageOfThread &) = delete;
+    CodePageOfThread &operator=(const CodePageOfThread &) = delete;
+
+    explicit operator bool() const { return known; } // false for an unknown number: nothing has changed
+
+private:
+    const CodePage *former;
+    bool known;
+};
+
 // The code page of a user's language, from a locale name such as "de_DE.UTF-8"; 1252 when unknown.
 int codePageOfLocale(std::string_view locale);
 

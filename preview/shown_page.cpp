@@ -1,7 +1,7 @@
 #include "preview/shown_page.h"
 
 #include "actions/action.h"
-#include "converter/ods2hts.h"
+#include "converter/html_template.h"
 #include "converter/text.h"
 #include "document/tablist.h"
 #include "platform/codepage.h"
@@ -183,7 +183,8 @@ std::string shownPage(const HostParts &parts, const LoadedPage &loaded, const Pr
     addState(strip, loaded, shown);
     if (!shown.result && !valueOf(request.query, "result").empty())
         strip.state = "the result is no longer kept: ask again";
-    return withStrip(fillTemplate(htmlTemplate(p), valuesOn(p, shown), filledGrids(p, shown)), strip);
+    return withStrip(fillTemplate(htmlTemplate(p, parts.pages.folder), valuesOn(p, shown), filledGrids(p, shown)),
+                     strip);
 }
 
 } // namespace corvanta

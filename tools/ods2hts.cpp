@@ -1,6 +1,5 @@
-#include "converter/ods2hts.h"
+#include "converter/convert.h"
 #include "platform/codepage.h"
-#include "platform/paths.h"
 
 #include <CLI/CLI.hpp>
 
@@ -12,11 +11,10 @@ namespace {
 
 bool convert(const std::string &file)
 {
-    const std::string path = corvanta::drivePath(file);
-    if (!path.empty() && ConvertOdsHts(path.c_str()) != 0)
-        return true;
-    std::cerr << "ods2hts: Error converting " << file << '\n';
-    return false;
+    const std::string failure = corvanta::convertPageFile(file);
+    if (!failure.empty())
+        std::cerr << "ods2hts: Error converting " << file << ": " << failure << '\n';
+    return failure.empty();
 }
 
 } // namespace

@@ -1,9 +1,9 @@
 #include "tools/odspage_commands.h"
 
 #include "document/page.h"
+#include "document/reading_failure.h"
 #include "platform/codepage.h"
 #include "platform/host_files.h"
-#include "tools/reading_failure.h"
 
 #include <CLI/Config.hpp>
 #include <CLI/Formatter.hpp>

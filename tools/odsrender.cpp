@@ -1,12 +1,12 @@
 #include "canvas/ui/paint.h"
 #include "document/page_file.h"
+#include "document/reading_failure.h"
 #include "platform/codepage.h"
 #include "platform/files.h"
 #include "platform/paths.h"
 #include "platform/qt/fonts.h"
 #include "platform/qt/qt_pictures.h"
 #include "platform/text.h"
-#include "tools/reading_failure.h"
 
 #include <CLI/CLI.hpp>
 #include <QGuiApplication>

@@ -62,9 +62,10 @@ void fill(QMessageBox &box, const MessageBox &question)
     box.setTextFormat(Qt::PlainText);
     box.setWindowTitle(toQString(question.title));
     box.setText(toQString(question.text));
+    box.setInformativeText(toQString(question.detail));
     box.setIcon(toQIcon(question.icon));
-    if (!question.details.empty())
-        box.setDetailedText(toQString(question.details));
+    if (!question.further.empty())
+        box.setDetailedText(toQString(question.further));
     widenForTitle(box);
 }
 

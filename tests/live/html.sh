@@ -30,7 +30,7 @@ done
 for page in "$work/samples/"*.ods; do
   "$programs/odspage" dump "$page" >"${page%.ods}.json"
 done
-"$programs/ods2hts" "$work"/{data,samples,gallery}/*.ods
+"$programs/odspage" html "$work"/{data,samples,gallery}
 
 python3 - "$programs/libods2hts.so" "$work/samples/menu.ods" <<'PY'
 import ctypes, os, sys

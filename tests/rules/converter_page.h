@@ -1,7 +1,7 @@
 #pragma once
 
 #include "actions/action.h"
-#include "converter/ods2hts.h"
+#include "converter/html_template.h"
 #include "document/objects.h"
 
 #include <string>

@@ -1,5 +1,7 @@
 #include "tests/rules/converter_page.h"
 
+#include "converter/convert.h"
+#include "converter/ods2hts.h"
 #include "document/page_file.h"
 #include "tests/support/samples.h"
 #include "tests/support/temporary_drive.h"
@@ -114,16 +116,103 @@ TEST(ConverterFile, FailuresWriteNothing)
     const TemporaryDrive drive;
     drive.add("PAGES/LARGE.ODS", std::string(fileLimit + 1, 'x'));
     drive.add("PAGES/EMPTY.ODS");
-    drive.add("PAGES/PAGE.HTS", samples::sample("menu.ods"));
-    for (const char *path :
-         {"C:\\PAGES\\LARGE.ODS", "C:\\PAGES\\EMPTY.ODS", "C:\\PAGES\\NONE.ODS", "C:\\PAGES\\PAGE.HTS", "", "X"})
+    const std::string menu = samples::sample("menu.ods");
+    drive.add("PAGES/PAGE.hts", menu);
+    drive.add("PAGES/LINKED.ODS", menu);
+    drive.add("PAGES/PICTURE.ODS", "\xFF\xD8\xFF\xE0 no page");
+    drive.add("PAGES/TEXT.ODS", "A letter, not a page.");
+    drive.add("PAGES/CUT.ODS", menu.substr(0, 20));
+    drive.add("PAGES/A", menu);
+    std::filesystem::create_symlink("LINKED.ODS", drive.root() / "PAGES/LINKED.hts");
+    const std::pair<const char *, const char *> failures[] = {
+        {"C:\\PAGES\\LARGE.ODS", "more than 16384 bytes"},
+        {"C:\\PAGES\\EMPTY.ODS", "the file is empty"},
+        {"C:/PAGES/NONE.ODS", "no such file"},
+        {"C:\\PAGES\\PAGE.hts", "the template would replace the page itself"},
+        {"C:\\PAGES\\LINKED.ODS", "the template would replace the page itself"},
+        {"C:\\PAGES\\PICTURE.ODS", "not a page file"},
+        {"C:\\PAGES\\TEXT.ODS", "not a page file"},
+        {"C:\\PAGES\\CUT.ODS", "not a page file"},
+        {"C:\\PAGES\\A", "the name is too short for that of a page file"},
+        {"", "no such file"},
+        {nullptr, "no such file"}};
+    const auto files = [&] {
+        const std::filesystem::directory_iterator listing(drive.root() / "PAGES");
+        return std::distance(begin(listing), end(listing));
+    };
+    const auto before = files();
+    for (const auto &[path, reason] : failures) {
         EXPECT_EQ(ConvertOdsHts(path), 0) << path;
-    EXPECT_EQ(ConvertOdsHts(nullptr), 0);
-    EXPECT_FALSE(std::filesystem::exists(drive.root() / "PAGES/LARGE.hts"));
-    EXPECT_FALSE(std::filesystem::exists(drive.root() / "PAGES/NONE.ODS"));
-    EXPECT_EQ(hostBytes(drive.root() / "PAGES/PAGE.HTS"), samples::sample("menu.ods"));
-    EXPECT_EQ(templatePath("C:\\PAGES\\MENU.ODS"), "C:\\PAGES\\MENU.hts");
-    EXPECT_EQ(templatePath("AB"), "hts");
+        EXPECT_STREQ(ConvertOdsHtsMessage(), reason);
+    }
+    EXPECT_EQ(ConvertOdsHtsCodePage("C:\\PAGES\\PAGE.hts", 437), 0);
+    EXPECT_STREQ(ConvertOdsHtsMessage(), "unknown code page 437");
+    EXPECT_EQ(files(), before);
+    EXPECT_EQ(hostBytes(drive.root() / "PAGES/PAGE.hts"), menu);
+    EXPECT_EQ(hostBytes(drive.root() / "PAGES/LINKED.ODS"), menu);
+}
+
+TEST(ConverterFile, NothingOutsideThePagesDirectoryGetsIntoATemplate)
+{
+    const TemporaryDrive drive;
+    drive.add("secret.txt", marker);
+    drive.add("PAGES/SUB/secret.txt", marker);
+    drive.add("PAGES/Note.TXT", "from the page's directory\x1A");
+    const std::string outside = drive.root() / "secret.txt";
+    Page p = pageOfAllKinds({});
+    const auto text = addTo(p, Kind::TextBox), list = addTo(p, Kind::ListBox);
+    const std::string names[] = {"../secret.txt",
+                                 "..\\secret.txt",
+                                 outside,
+                                 "C:\\secret.txt",
+                                 "C:secret.txt",
+                                 "SUB/secret.txt",
+                                 "SUB\\secret.txt",
+                                 "..",
+                                 "."};
+    for (const std::string &name : names) {
+        for (std::int16_t i = 0; i < objectCount(p); ++i) {
+            recordAt(p, i).srcfile = name;
+            recordAt(p, i).actlist = encodeAction({action::goToPage, {name}});
+        }
+        p.frames[1].image = p.frames[2].image = p.frames[1].sound = p.bkgfile = p.sndfn = name;
+        p.lbxextras.back() = {{"Entry", encodeAction({action::goToPage, {name}})}};
+        const std::string html = htmlTemplate(p, drive.root() / "PAGES");
+        for (const char *part : {"CANARY", "\"..", "\".\"", "SUB", "url(\".", "C:"})
+            EXPECT_FALSE(holds(html, part)) << name << " gave " << part;
+        EXPECT_TRUE(holds(elementLine(html, list), "Entry"));
+    }
+    recordAt(p, text).srcfile = "NOTE.txt";
+    EXPECT_TRUE(
+        holds(elementLine(htmlTemplate(p, drive.root() / "PAGES"), text), "value=\"from the page&#39;s directory\""));
+}
+
+TEST(ConverterFile, LinksHaveTheSpellingOfTheFilesBesideThePage)
+{
+    const TemporaryDrive drive;
+    drive.add("Menu.ODS");
+    drive.add("Logo.BMP");
+    Page p;
+    recordAt(p, addTo(p, Kind::HotSpot)).actlist = encodeAction({action::goToPage, {"MENU"}});
+    recordAt(p, addTo(p, Kind::HotSpot)).actlist = encodeAction({action::goToPage, {"menu.ods"}});
+    recordAt(p, addTo(p, Kind::Image)).srcfile = "logo.bmp";
+    const std::string html = htmlTemplate(p, drive.root());
+    EXPECT_TRUE(holds(elementLine(html, 0), "href=\"Menu.hts\""));
+    EXPECT_TRUE(holds(elementLine(html, 1), "href=\"Menu.hts\""));
+    EXPECT_TRUE(holds(elementLine(html, 2), "src=\"Logo.BMP\""));
+}
+
+TEST(ConverterFile, ALibraryCallStartsFromTheDirectoryOfThatMoment)
+{
+    const TemporaryDrive drive;
+    const auto former = std::filesystem::current_path();
+    for (const char *folder : {"ONE", "TWO"}) {
+        drive.add(std::string(folder) + "/SUB/page.ods", samples::sample("menu.ods"));
+        std::filesystem::current_path(drive.root() / folder);
+        EXPECT_NE(ConvertOdsHts("SUB/page.ods"), 0) << ConvertOdsHtsMessage();
+        EXPECT_TRUE(std::filesystem::exists(drive.root() / folder / "SUB/page.hts"));
+    }
+    std::filesystem::current_path(former);
 }
 
 } // namespace

@@ -19,7 +19,7 @@ TEST(ConverterAddress, OnlyHarmlessSchemesPass)
     for (const char *address :
          {"javascript:alert(1)", "JavaScript:alert(1)", " java\tscript:alert(1)", "\x01javascript:alert(1)",
           "vbscript:x", "data:text/html,x", "file:///etc/passwd", "C:\\PAGES\\X.HTM", "\\\\server\\share", "ldap://x",
-          "http:", "http://", "http://a b/", "http://x:99999/", "mailto:", ":x", ""})
+          "http:", "http://", "http://a b/", "http://x:99999/", "mailto:", ":x", ":", ""})
         EXPECT_FALSE(safeAddress(address)) << address;
     EXPECT_EQ(safeAddress("HTTPS://example.com:80/a b?q=\"<&>#f#g"), "HTTPS://example.com:80/a%20b?q=%22%3C&%3E#f%23g");
     EXPECT_EQ(safeAddress("www.harbour.example"), "http://www.harbour.example");
@@ -36,13 +36,17 @@ TEST(ConverterAddress, FilesAndPagesAreNamedWithoutDirectories)
     EXPECT_EQ(pageAddress("C:\\SECRET\\menu.OdS"), "menu.hts");
     EXPECT_EQ(pageAddress(" "), "TOP.hts");
     EXPECT_EQ(pageAddress("javascript:alert(1)//"), "TOP.hts");
+    EXPECT_EQ(pageAddress("menu.hts"), "menu.hts");
+    EXPECT_EQ(pageAddress("..\\.."), "TOP.hts");
+    EXPECT_EQ(mediaAddress("pictures/.."), "");
     EXPECT_EQ(mediaAddress("..\\secret/my \"pic\".bmp"), "my%20%22pic%22.bmp");
     EXPECT_EQ(mediaAddress("a');}</style>.bmp"), "style%3E.bmp");
 }
 
 TEST(ConverterAddress, ImagesOfDatabasesHaveNoLocalDirectory)
 {
-    for (const char *path : {"", "C:\\SECRET", "\\\\secret\\photos", "/home/secret", "javascript:x"})
+    for (const char *path : {"", "C:\\SECRET", "\\\\secret\\photos", "/home/secret", "javascript:x", "ftp://x.example/",
+                             "photos\\..\\..", ".."})
         EXPECT_EQ(imageAddress(path, "photo"), "@photo@") << path;
     EXPECT_EQ(imageAddress("photos\\small", "photo"), "photos/small/@photo@");
     EXPECT_EQ(imageAddress("http://example.com/p/", "photo"), "http://example.com/p/@photo@");
