@@ -56,20 +56,15 @@ bool inside(const fs::path &folder, const fs::path &file)
     return !error && end.first == folder.end();
 }
 
-const PageOverlay *overlayOf(const PageFolder &pages, const std::string &name)
-{
-    const auto found = std::find_if(pages.overlays.begin(), pages.overlays.end(),
-                                    [&](const PageOverlay &o) { return sameText(o.name, name); });
-    return found == pages.overlays.end() ? nullptr : &*found;
-}
-
 // Empty when the page's file is not there or elsewhere.
 fs::path pageFile(const PageFolder &pages, const std::string &name)
 {
-    if (const PageOverlay *overlay = overlayOf(pages, name))
-        return overlay->file;
-    fs::path file = named(pages.folder, name + ".ods");
-    return inside(pages.folder, file) ? file : fs::path();
+    for (const fs::path &folder : {pages.overlay, pages.folder}) {
+        const fs::path file = folder.empty() ? fs::path() : named(folder, name + ".ods");
+        if (!file.empty() && inside(folder, file))
+            return file;
+    }
+    return {};
 }
 
 std::string failureOf(const FileContent &content)
@@ -126,14 +121,13 @@ const char *mediaType(std::string_view name)
 
 } // namespace
 
-std::string startPage(const fs::path &folder)
+std::string startPage(const PageFolder &pages)
 {
-    const std::vector<std::string> names = pageNames(folder);
+    const std::vector<std::string> names = pageNames(pages.folder);
     for (const char *usual : {"TOP", "MENU"})
         for (const std::string &name : names)
             if (sameText(name, usual))
                 return name;
-    const PageFolder pages{folder, {}, {}};
     for (const std::string &name : names)
         if (const LoadedPage loaded = loadPage(pages, name);
             loaded.failure.empty() && loaded.page.PageType == static_cast<std::int16_t>(PageKind::Menu))

@@ -6,22 +6,15 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 // The pages and media of one directory, as requests name them. Nothing outside of it is ever read, also not through
 // links. May be called from many threads.
 namespace corvanta {
 
-// A page whose content is that of another file.
-struct PageOverlay {
-    std::string name; // without ".ods", bytes of the code page
-    std::filesystem::path file;
-};
-
 struct PageFolder {
-    std::filesystem::path folder; // canonical
-    std::vector<PageOverlay> overlays;
-    std::string start; // the page that is shown first, bytes of the code page
+    std::filesystem::path folder;  // canonical
+    std::filesystem::path overlay; // its pages stand in the place of the folder's; canonical, or empty
+    std::string start;             // the page that is shown first, bytes of the code page
 };
 
 struct LoadedPage {
@@ -33,7 +26,7 @@ struct LoadedPage {
 
 // The name of the page that is shown first when none was named: TOP, else MENU, else the first page of the type
 // "Menu", else the first page by name; empty when the folder has none. Bytes of the code page.
-std::string startPage(const std::filesystem::path &folder);
+std::string startPage(const PageFolder &pages);
 
 // The page of an address such as "MENU.hts" (UTF-8): its name in bytes of the code page. None for other addresses
 // and for names that are not plain. "TOP" is the start page where there is no such page.

@@ -1,4 +1,5 @@
 #include "platform/codepage.h"
+#include "platform/text.h"
 #include "preview/host.h"
 #include "preview/server.h"
 #include "tools/odspage_commands.h"
@@ -26,8 +27,7 @@ constexpr std::size_t longestAnswer = 255;
 constexpr int endingTime = 2000; // milliseconds that open requests get to end
 
 struct PreviewArguments {
-    std::string target;
-    std::vector<std::string> overlays; // NAME=FILE
+    std::string target, overlay;
     int port = 0;
     bool write = false, open = false;
 };
@@ -60,30 +60,27 @@ bool inputIsHeld()
     return fstat(STDIN_FILENO, &status) == 0 && (S_ISFIFO(status.st_mode) || S_ISSOCK(status.st_mode));
 }
 
-std::string stemName(const fs::path &file) { return fromUtf8Lossy(file.stem().string()); }
-
-// The directory with its overlays; the failure is for the user.
+// The directory with its overlay and the page to begin with; the failure is for the user.
 std::string findPages(const PreviewArguments &arguments, PageFolder &pages)
 {
     std::error_code error;
-    const fs::path target = fs::canonical(arguments.target, error);
+    const fs::path target = fs::absolute(arguments.target, error);
+    const bool wholeFolder = fs::is_directory(target, error);
+    pages.folder = fs::canonical(wholeFolder ? target : target.parent_path(), error);
+    if (!error && !arguments.overlay.empty())
+        pages.overlay = fs::canonical(arguments.overlay, error);
     if (error)
         return error.message();
-    const bool folder = fs::is_directory(target, error);
-    pages.folder = folder ? target : target.parent_path();
-    for (const std::string &text : arguments.overlays) {
-        const std::size_t equals = text.find('=');
-        if (equals == 0 || equals == std::string::npos)
-            return "--overlay takes NAME=FILE";
-        pages.overlays.push_back({fromUtf8Lossy(text.substr(0, equals)), fs::absolute(text.substr(equals + 1))});
-    }
-    if (!folder) {
-        pages.overlays.push_back({stemName(target), target});
-        pages.start = stemName(target);
-    } else {
-        pages.start = pages.overlays.empty() ? startPage(pages.folder) : pages.overlays.front().name;
-    }
-    return pages.start.empty() ? "no page files (.ods) here" : "";
+    const std::string address = fromUtf8Lossy(target.filename().string());
+    if (wholeFolder)
+        pages.start = startPage(pages);
+    else if (address.size() > 4 && sameText(address.substr(address.size() - 4), ".ods"))
+        pages.start = address.substr(0, address.size() - 4);
+    else
+        return "no page file (.ods)";
+    if (pages.start.empty())
+        return "no page files (.ods) here";
+    return loadPage(pages, pages.start).missing ? "no such page file" : "";
 }
 
 // Opens an address in the user's browser.
@@ -235,7 +232,7 @@ void addPreviewCommand(CLI::App &app, ToolRun &run)
         ->check(CLI::Range(0, 65535));
     command->add_flag("--write", arguments->write, "carry out statements that change the database");
     command->add_flag("--open", arguments->open, "open the page in the browser");
-    command->add_option("--overlay", arguments->overlays, "NAME=FILE: the page NAME has the content of FILE");
+    command->add_option("--overlay", arguments->overlay, "directory whose pages stand in the place of those in DIR");
     command->callback([&run, arguments] {
         if (!run.codePageGiven)
             setCodePage(codePageOfEnvironment());
