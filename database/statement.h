@@ -30,7 +30,8 @@ SqlClass sqlClass(const SqlColumn &column);
 
 struct SqlParameter {
     SqlField value;
-    SqlColumn column; // what it is compared with or stored in
+    SqlColumn column;    // what it is compared with or stored in
+    bool secret = false; // not to be shown to people
 };
 
 struct SqlStatement {

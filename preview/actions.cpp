@@ -231,21 +231,6 @@ private:
             location = rowLocation(result->queryView, result->number, 0);
     }
 
-    // Parameters for people to read, without what was typed into password fields.
-    std::vector<std::string> shownParameters(const SqlStatement &statement) const
-    {
-        std::vector<std::string> shown;
-        for (const SqlParameter &parameter : statement.parameters) {
-            shown.push_back(parameter.value.value_or("NULL"));
-            for (std::int16_t i = 0; i < objectCount(p); ++i)
-                if (const auto &secret = values[static_cast<std::size_t>(i)];
-                    secret && !secret->empty() && isPasswordField(p, i) &&
-                    shown.back().find(*secret) != std::string::npos)
-                    shown.back() = "•••";
-        }
-        return shown;
-    }
-
     // Runs a statement that changes the database, or shows it. True when it was carried out.
     bool change(const FilledStatement &filled, std::optional<long> mostRows)
     {

@@ -42,14 +42,20 @@ std::string rowsLocation(const std::string &page, unsigned result, long from)
     return pageAddress(page) + "?result=" + std::to_string(result) + "&from=" + std::to_string(from);
 }
 
+std::vector<std::string> shownParameters(const SqlStatement &statement)
+{
+    std::vector<std::string> shown;
+    for (const SqlParameter &parameter : statement.parameters)
+        shown.push_back(parameter.secret ? "•••" : parameter.value.value_or("NULL"));
+    return shown;
+}
+
 ResultPtr runQuery(HostParts &parts, ResultSet query, const SqlStatement &statement)
 {
     query.data = parts.sources.read(query.source, statement);
     query.statement = statement;
     JournalEntry entry{
         JournalEntry::Kind::Statement, {}, statement.text, {}, {}, query.data.milliseconds, query.data.error};
-    for (const SqlParameter &parameter : statement.parameters)
-        entry.parameters.push_back(parameter.value.value_or("NULL"));
     const bool failed = !query.data.error.empty();
     if (!failed)
         entry.rows = static_cast<long>(query.data.rows.size());

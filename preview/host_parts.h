@@ -41,6 +41,9 @@ std::string pageLocation(const std::string &page);
 std::string rowLocation(const std::string &page, unsigned result, long row);
 std::string rowsLocation(const std::string &page, unsigned result, long from);
 
+// Parameters for people to read, without what was typed into password fields.
+std::vector<std::string> shownParameters(const SqlStatement &statement);
+
 // Runs a SELECT of a page and enters it in the journal. The result is none after a failure.
 ResultPtr runQuery(HostParts &parts, ResultSet query, const SqlStatement &statement);
 

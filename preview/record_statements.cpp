@@ -9,8 +9,6 @@ namespace corvanta {
 
 namespace {
 
-constexpr std::int16_t passwordObject = 1;
-
 const ObjectRecord &objectAt(const Page &p, std::int16_t index) { return p.objects[static_cast<std::size_t>(index)]; }
 
 std::string tablePart(std::string_view datacol)
@@ -87,6 +85,19 @@ std::string withLineFeeds(const std::string &text)
     return plain;
 }
 
+// "250" and "+250.00" are the same; numbers with an exponent are what they are.
+std::string plainNumber(std::string text)
+{
+    if (text.starts_with('+'))
+        text.erase(0, 1);
+    if (text.find('.') != std::string::npos && text.find_first_of("eE") == std::string::npos) {
+        text.erase(text.find_last_not_of('0') + 1);
+        if (text.ends_with('.'))
+            text.pop_back();
+    }
+    return text;
+}
+
 SqlColumn columnOf(const std::vector<SqlColumn> &columns, const std::string &name)
 {
     const int place = columnPlace(columns, name);
@@ -126,7 +137,7 @@ Assignments assignmentsOf(const Page &p, const std::vector<SqlColumn> &tableColu
         if (!value || (isPasswordField(p, i) && value->empty()))
             continue;
         const std::string name = columnName(objectAt(p, i).datacol);
-        SqlParameter parameter{{}, columnOf(tableColumns, name)};
+        SqlParameter parameter{{}, columnOf(tableColumns, name), isPasswordField(p, i)};
         parameter.column.name = toUtf8(name);
         const std::string failure = storedField(*value, parameter.column, parameter.value);
         if (!failure.empty()) {
@@ -144,7 +155,10 @@ bool isUnchanged(const Assignment &assignment, const ShownRecord &record)
     if (place < 0)
         return false;
     const std::string before = record.row[static_cast<std::size_t>(place)].value_or(std::string());
-    return withLineFeeds(before) == withLineFeeds(assignment.parameter.value.value_or(std::string()));
+    const std::string after = assignment.parameter.value.value_or(std::string());
+    if (sqlClass(assignment.parameter.column) == SqlClass::Number)
+        return plainNumber(before) == plainNumber(after);
+    return withLineFeeds(before) == withLineFeeds(after);
 }
 
 // Adds " Where " and the update keys with the values of the row.
@@ -161,7 +175,7 @@ void addCondition(const Page &p, const ShownRecord &record, FilledStatement &fil
         }
         filled.statement.text += (i == 0 ? " Where " : " And ") + quotedName(keys[i]) + " = ?";
         filled.statement.parameters.push_back(
-            {record.row[static_cast<std::size_t>(place)], columnOf(record.tableColumns, keys[i])});
+            {record.row[static_cast<std::size_t>(place)], columnOf(record.tableColumns, keys[i]), false});
     }
 }
 
@@ -185,12 +199,6 @@ int columnPlace(const std::vector<SqlColumn> &columns, std::string_view name)
     const auto found = std::find_if(columns.begin(), columns.end(),
                                     [&](const SqlColumn &c) { return sameText(fromUtf8Lossy(c.name), name); });
     return found == columns.end() ? -1 : static_cast<int>(found - columns.begin());
-}
-
-bool isPasswordField(const Page &p, std::int16_t index)
-{
-    const auto element = static_cast<std::size_t>(p.ctlindex[static_cast<std::size_t>(index)]);
-    return kindOf(objectAt(p, index).kind) == Kind::TextBox && p.tbxextras[element].sysobj == passwordObject;
 }
 
 SqlStatement describingStatement(const Page &p)

@@ -19,9 +19,6 @@ std::string columnName(std::string_view datacol);
 // The place of a column (bytes of the code page) in a result; -1 when it is not there.
 int columnPlace(const std::vector<SqlColumn> &columns, std::string_view name);
 
-// A Text Box that hides what is typed.
-bool isPasswordField(const Page &p, std::int16_t index);
-
 // All columns of the page's table and none of its rows: what parameters are bound as.
 SqlStatement describingStatement(const Page &p);
 

@@ -11,6 +11,7 @@ namespace corvanta {
 
 namespace {
 
+constexpr std::int16_t passwordObject = 1;
 constexpr std::size_t longestNumber = 40; // characters
 
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
@@ -81,18 +82,19 @@ private:
     }
     void fail(std::int16_t object, const std::string &what)
     {
+        const std::string name = toUtf8(p.objects[static_cast<std::size_t>(object)].ctlname);
         filled.failure =
-            toUtf8(p.objects[static_cast<std::size_t>(object)].ctlname) + ": \"" + valueOf(object) + "\" " + what;
+            name + ": " + (isPasswordField(p, object) ? "what was typed" : '"' + valueOf(object) + '"') + " " + what;
     }
     void copy(std::size_t length)
     {
         out += text.substr(at, length);
         at = std::min(at + length, text.size());
     }
-    void bindText(std::string value)
+    void bindText(std::string value, bool secret)
     {
         out += '?';
-        filled.statement.parameters.push_back({std::move(value), {}});
+        filled.statement.parameters.push_back({std::move(value), {}, secret});
     }
 
     void step()
@@ -125,8 +127,8 @@ private:
         return rest.size();
     }
 
-    // The content of a literal with its placeholders filled, UTF-8; counts them in found.
-    std::string content(std::string_view literal, std::int16_t &lastObject)
+    // The content of a literal with its placeholders filled, UTF-8; whether one is a password's.
+    std::string content(std::string_view literal, std::int16_t &lastObject, bool &secret)
     {
         const bool closed = literal.size() > 1 && literal.back() == '\'';
         std::string_view inner = literal.substr(1, literal.size() - (closed ? 2 : 1));
@@ -136,6 +138,7 @@ private:
             if (found.length > 0) {
                 value += valueOf(found.object);
                 lastObject = found.object;
+                secret = secret || isPasswordField(p, found.object);
                 inner.remove_prefix(found.length);
                 continue;
             }
@@ -158,13 +161,14 @@ private:
     void literal(std::string_view whole)
     {
         std::int16_t object = noObject;
-        std::string value = content(whole, object);
+        bool secret = false;
+        std::string value = content(whole, object, secret);
         if (object == noObject)
             return copy(whole.size());
         at += whole.size();
         const std::size_t brace = escapeStart();
         if (brace == std::string::npos)
-            return bindText(std::move(value));
+            return bindText(std::move(value), secret);
         if (isDateText(value)) {
             // Some drivers know the escape only with a blank.
             out += (out.ends_with(' ') ? "'" : " '") + value + '\'';
@@ -197,7 +201,7 @@ private:
             return;
         }
         switch (valueClass(p, found.object)) {
-        case ValueClass::Text: return bindText(valueOf(found.object));
+        case ValueClass::Text: return bindText(valueOf(found.object), isPasswordField(p, found.object));
         case ValueClass::Number:
             if (!value.empty() && !isNumber(value))
                 return fail(found.object, "is no number.");
@@ -220,6 +224,13 @@ bool isDateText(std::string_view text)
     return text.size() <= longestNumber && std::any_of(text.begin(), text.end(), isDigit) &&
            std::all_of(text.begin(), text.end(),
                        [](char c) { return isDigit(c) || c == '-' || c == ':' || c == '.' || c == ' '; });
+}
+
+bool isPasswordField(const Page &p, std::int16_t index)
+{
+    const auto element = static_cast<std::size_t>(p.ctlindex[static_cast<std::size_t>(index)]);
+    return kindOf(p.objects[static_cast<std::size_t>(index)].kind) == Kind::TextBox &&
+           p.tbxextras[element].sysobj == passwordObject;
 }
 
 bool isNumber(std::string_view text)

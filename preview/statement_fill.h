@@ -31,6 +31,9 @@ std::string filledText(const Page &p, std::string_view text, const ObjectValues 
 // Whether a statement is one SELECT and nothing behind it.
 bool isOneSelect(std::string_view statement);
 
+// A Text Box that hides what is typed.
+bool isPasswordField(const Page &p, std::int16_t index);
+
 // "-12.5", "1e3" and the like.
 bool isNumber(std::string_view text);
 
