@@ -33,8 +33,9 @@ bool waitFor(socket_t fd, short event, Clock::time_point end)
 
 } // namespace
 
-LimitedStream::LimitedStream(socket_t connection, std::size_t mostBytes, std::chrono::milliseconds time)
-    : fd(connection), bytesLeft(mostBytes), end(Clock::now() + time)
+LimitedStream::LimitedStream(socket_t connection, std::size_t headerBytes, std::size_t bodyBytes,
+                             std::chrono::milliseconds time)
+    : fd(connection), bytesLeft(headerBytes), bodyLimit(bodyBytes), end(Clock::now() + time)
 {
 }
 
@@ -54,7 +55,20 @@ ssize_t LimitedStream::fill()
     const ssize_t count = !buffer.empty() && waitFor(fd, POLLIN, end) ? recv(fd, buffer.data(), buffer.size(), 0) : -1;
     buffer.resize(static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
     bytesLeft -= buffer.size();
+    lookForBody();
     return count;
+}
+
+// An empty line ends the headers.
+void LimitedStream::lookForBody()
+{
+    if (inBody)
+        return;
+    tail += buffer;
+    inBody = tail.find("\n\r\n") != std::string::npos || tail.find("\n\n") != std::string::npos;
+    if (inBody)
+        bytesLeft += bodyLimit;
+    tail.erase(0, tail.size() - std::min<std::size_t>(tail.size(), 2));
 }
 
 ssize_t LimitedStream::read(char *bytes, std::size_t size)

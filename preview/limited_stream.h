@@ -5,13 +5,13 @@
 #include <httplib.h>
 #include <string>
 
-// One connection of the preview's server. A request has so many bytes and so much time as a whole, so that a sender
-// who never ends, however busily, is cut off.
+// One connection of the preview's server. The headers of a request have so many bytes, its body so many, and both
+// together so much time, so that a sender who never ends, however busily, is cut off.
 namespace corvanta {
 
 class LimitedStream : public httplib::Stream {
 public:
-    LimitedStream(socket_t connection, std::size_t mostBytes, std::chrono::milliseconds time);
+    LimitedStream(socket_t connection, std::size_t headerBytes, std::size_t bodyBytes, std::chrono::milliseconds time);
 
     bool is_readable() const override;
     bool is_writable() const override; // false once the other side has gone
@@ -23,12 +23,15 @@ public:
 
 private:
     ssize_t fill();
+    void lookForBody();
 
     socket_t fd;
-    std::size_t bytesLeft;
+    std::size_t bytesLeft, bodyLimit;
     std::chrono::steady_clock::time_point end;
     std::string buffer; // read and not yet taken
     std::size_t taken = 0;
+    std::string tail; // of what came before the buffer
+    bool inBody = false;
 };
 
 // Ends a connection so that what was answered arrives, also when the other side is still sending.

@@ -35,7 +35,7 @@ const httplib::Headers securityHeaders = {
 class LimitedServer : public httplib::Server {
     bool process_and_close_socket(socket_t connection) override
     {
-        LimitedStream stream(connection, headerLimit + bodyLimit, requestTime);
+        LimitedStream stream(connection, headerLimit, bodyLimit, requestTime);
         bool closed = false;
         const bool done = process_request(stream, true, closed, nullptr);
         endConnection(connection);
