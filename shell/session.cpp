@@ -146,6 +146,8 @@ void endSession()
 
 WindowSettings keptOnScreen(WindowSettings s, const ScreenSizes &sizes)
 {
+    s.PageHeight = std::min(s.PageHeight, sizes.screenHeight - sizes.frameHeight);
+    s.PageWidth = std::min(s.PageWidth, sizes.screenWidth - sizes.frameWidth);
     s.MainTop = keptOnScreen(s.MainTop, sizes.mainHeight, sizes.screenHeight);
     s.MainLeft = keptOnScreen(s.MainLeft, sizes.mainWidth, sizes.screenWidth);
     s.PageTop = keptOnScreen(s.PageTop, s.PageHeight + sizes.frameHeight, sizes.screenHeight);

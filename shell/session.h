@@ -43,7 +43,7 @@ struct ScreenSizes {
     int screenHeight = 0, screenWidth = 0;
 };
 
-// The settings with both windows moved onto the screen.
+// The settings with both windows on the screen: the canvas is cut to its size, both are moved.
 WindowSettings keptOnScreen(WindowSettings settings, const ScreenSizes &sizes);
 
 } // namespace corvanta

@@ -1,5 +1,6 @@
 #include "canvas/ui/editform.h"
 
+#include "canvas/page_view.h"
 #include "canvas/ui/paint.h"
 #include "document/events.h"
 #include "platform/qt/text.h"
@@ -10,14 +11,17 @@
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QScrollArea>
+#include <QScrollBar>
+#include <QStyle>
+#include <QWindow>
 
 #include <algorithm>
+#include <utility>
 
 namespace corvanta {
 
 namespace {
 
-constexpr int settlingTime = 1000; // milliseconds
 constexpr QSize usualBorder(8, 40);
 constexpr QSize smallestPage(48, 24);
 
@@ -40,14 +44,11 @@ Editform::Editform()
       trackers(*area),
       visuals(*area, trackers.ceiling()),
       input(*area, trackers, commands),
-      objtimer(this),
-      settling(this)
+      objtimer(this)
 {
     setObjectName(QStringLiteral("editform"));
     scroller->setWidget(area);
     setMinimumSize(smallestPage + QSize(0, toolbar->height() + statusPanel->height()));
-    settling.setSingleShot(true);
-    settling.setInterval(settlingTime);
     area->dropped = [this](QPoint at, const DragPayload &payload) { drop(at, payload); };
     input.pointed = [this](std::int16_t index) { showStatus(index); };
     editing().msgflag = true;
@@ -74,29 +75,58 @@ void Editform::applyPageLayout()
     area->update();
 }
 
+// The window takes the page's size as far as there is room, with what the scroll bars take that it then needs.
 void Editform::resizeToPage()
 {
-    const Page &p = page();
-    const QSize pageSize(p.bkgwd, p.bkght);
-    fitted = pageSize.boundedTo(screenRoom());
-    const QSize wanted = fitted + QSize(0, frameHeight());
-    if (pageSize.isEmpty() || size() == wanted)
+    const Size pageSize = sizeOf(page());
+    if (pageSize.width <= 0 || pageSize.height <= 0)
         return;
-    settling.start();
-    superseded.append(size());
-    resize(wanted);
+    const QSize space = screenRoom();
+    const Size view = viewOf(pageSize, {space.width(), space.height()}, barWidth());
+    const Size bars = barsFor(pageSize, view, barWidth());
+    fitted = {view.width - bars.width, view.height - bars.height};
+    askFor({view.width, view.height + frameHeight()});
 }
 
-// A window system answers some time after a size was asked for, and may answer with one that was replaced meanwhile:
-// neither is the user's.
-bool Editform::isLateAnswer(const QResizeEvent &event)
+int Editform::barWidth() const
+{
+    return style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, scroller->verticalScrollBar());
+}
+
+void Editform::askFor(QSize wanted)
+{
+    if (size() == wanted)
+        return;
+    asked.append(size());
+    asked.append(wanted);
+    resize(wanted);
+    keepInRoom();
+}
+
+// A window that grows beyond its room is pushed back, but not a window that the author has put elsewhere.
+void Editform::keepInRoom()
+{
+    const QRect all = room ? room() : screen()->availableGeometry(), frame = frameGeometry();
+    const QPoint excess(std::max(0, frame.right() - all.right()), std::max(0, frame.bottom() - all.bottom()));
+    const QPoint corner(std::max(frame.left() - excess.x(), std::min(frame.left(), all.left())),
+                        std::max(frame.top() - excess.y(), std::min(frame.top(), all.top())));
+    if (isVisible() && corner != frame.topLeft())
+        move(corner);
+}
+
+// A window system answers some time after it was asked for a size, perhaps with one that was replaced meanwhile, and
+// with a size of its own for a window that comes onto the screen: none of them is the user's.
+bool Editform::isAnswer(const QResizeEvent &event)
 {
     if (!event.spontaneous())
         return false;
-    if (settling.isActive() || superseded.contains(event.size()))
+    if (std::exchange(restoring, false)) {
+        QTimer::singleShot(0, this, [this] { applyPageLayout(); });
         return true;
-    superseded.clear();
-    return false;
+    }
+    const qsizetype found = asked.indexOf(event.size());
+    asked.remove(0, found < 0 ? asked.size() : found);
+    return found >= 0 || !windowHandle()->isExposed();
 }
 
 void Editform::showMockToolbar(bool shown)
@@ -124,7 +154,8 @@ QSize Editform::screenRoom() const
 {
     const QSize known = frameGeometry().size() - size();
     const QSize border = known.isNull() ? usualBorder : known; // not known before the window is shown
-    return screen()->availableSize() - border - QSize(0, frameHeight());
+    const QSize all = room ? room().size() : screen()->availableSize();
+    return (all - border - QSize(0, frameHeight())).expandedTo(smallestPage);
 }
 
 // A page without a size, as a new one is, takes the window's without becoming dirty.
@@ -138,27 +169,24 @@ void Editform::takeMissingSize()
         p.bkgwd = toPixels(innerSize().width());
     if (p.bkght <= 0)
         p.bkght = toPixels(std::max(1, innerSize().height()));
-    unasked = {p.bkgwd, p.bkght};
 }
 
-// A page that did not fit on the screen keeps that side, unless the window has become larger still.
-void Editform::takeSizeFromWindow()
+void Editform::takeSizeFromWindow(QSize windowBefore)
 {
-    Page &p = page();
-    const auto side = [](std::int16_t current, int shown, int room) {
-        return shown <= 0 || (current > room && shown <= current) ? current : toPixels(shown);
-    };
-    const std::int16_t width = side(p.bkgwd, innerSize().width(), fitted.width());
-    const std::int16_t height = side(p.bkght, innerSize().height(), fitted.height());
-    const QSize before(p.bkgwd, p.bkght);
-    if (before == QSize(width, height))
+    const auto inner = [this](QSize window) { return Size{window.width(), window.height() - frameHeight()}; };
+    const Size before = sizeOf(page());
+    const Size after = pageSizeFor(before, fitted, inner(windowBefore), inner(size()), barWidth());
+    if (after == before)
         return;
-    p.bkgwd = width;
-    p.bkght = height;
-    area->resize(width, height);
-    if (before != unasked || !editing().filetag.empty()) // the first size of a new page is no edit
-        pageEdited("Page size");
-    unasked = {};
+    if (after.width != before.width)
+        fitted.width = after.width;
+    if (after.height != before.height)
+        fitted.height = after.height;
+    page().bkgwd = toPixels(after.width);
+    page().bkght = toPixels(after.height);
+    area->resize(after.width, after.height);
+    editing().lentSize.reset();
+    pageEdited("Page size");
 }
 
 void Editform::arrange()
@@ -175,9 +203,9 @@ void Editform::repaintPage() { visuals.refreshAll(); }
 
 void Editform::resizeEvent(QResizeEvent *event)
 {
-    if (!inLayout && !isLateAnswer(*event) && isVisible() && isNormal() && editing().msgflag &&
+    if (!inLayout && !isAnswer(*event) && isVisible() && isNormal() && editing().msgflag &&
         (page().pgflags & sizeFromImage) == 0)
-        takeSizeFromWindow();
+        takeSizeFromWindow(event->oldSize());
     arrange();
 }
 
@@ -187,14 +215,18 @@ void Editform::showEvent(QShowEvent *)
     area->setFocus();
 }
 
-// Back in the normal state the window takes the page's size, which may have changed meanwhile.
+// Back in the normal state the window takes the page's size, which may have changed meanwhile: once it stands in its
+// normal place, which a change of its size would take from it before.
 void Editform::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
-    if (event->type() != QEvent::WindowStateChange || !isNormal() || !isVisible())
+    if (event->type() != QEvent::WindowStateChange || !isVisible())
         return;
-    settling.start();
-    QTimer::singleShot(0, this, [this] { applyPageLayout(); });
+    const bool wasMaximised =
+        static_cast<QWindowStateChangeEvent *>(event)->oldState() & (Qt::WindowMaximized | Qt::WindowFullScreen);
+    restoring = isNormal() && wasMaximised && geometry() != normalGeometry();
+    if (isNormal() && !restoring)
+        QTimer::singleShot(0, this, [this] { applyPageLayout(); });
 }
 
 void Editform::closeEvent(QCloseEvent *event)

@@ -31,6 +31,8 @@ public:
     void showStatusPanel(bool shown);
 
     PageArea &pageArea() const { return *area; }
+    // Where the window with its frame has room on the screen when it takes a page's size; empty for all of it.
+    std::function<QRect()> room;
     // Paints the page and its visuals again, as after loading media.
     void repaintPage();
 
@@ -47,10 +49,13 @@ private:
     bool isNormal() const; // neither minimised nor maximised
     int frameHeight() const;
     QSize innerSize() const;
-    bool isLateAnswer(const QResizeEvent &event);
+    bool isAnswer(const QResizeEvent &event);
+    int barWidth() const; // of a scroll bar
+    void askFor(QSize wanted);
+    void keepInRoom();
     QSize screenRoom() const; // for the page, when the window fills the screen
     void takeMissingSize();
-    void takeSizeFromWindow();
+    void takeSizeFromWindow(QSize windowBefore);
     void resizeToPage();
     void arrange();
     void listenToDocument();
@@ -71,11 +76,10 @@ private:
     CanvasInput input;
     EventConnections connections; // to the document, the rules of the canvas and what runs
     QTimer objtimer;
-    QTimer settling;         // runs while the window system may still answer to a size of ours
-    QList<QSize> superseded; // sizes that others have taken the place of, since the user's last
-    QSize fitted;            // the part of the page that the window showed when it took the page's size
-    bool inLayout = false;   // resizes are of the program's making
-    QSize unasked;           // page size that a new page took from the window
+    QList<QSize> asked;     // sizes that the window system may still answer with, in the order of asking
+    Size fitted;            // the part of the page that the window showed when it took the page's size
+    bool inLayout = false;  // resizes are of the program's making
+    bool restoring = false; // the window is normal again but does not stand in its normal place yet
 };
 
 } // namespace corvanta

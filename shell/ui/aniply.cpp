@@ -1,6 +1,7 @@
 #include "shell/ui/aniply.h"
 
 #include "canvas/player.h"
+#include "platform/placement.h"
 #include "platform/qt/dialogs.h"
 #include "platform/qt/text.h"
 #include "platform/qt/window_switch.h"
@@ -8,11 +9,27 @@
 #include <QDialog>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
 
 namespace corvanta {
 
-void showPlayer(QWidget *owner)
+namespace {
+
+Area areaOf(const QRect &r) { return {double(r.x()), double(r.y()), double(r.width()), double(r.height())}; }
+
+// The dialog gets the frame that its owner has.
+void moveOff(QDialog &dialog, const QWidget &owner, const QWidget &canvas)
+{
+    const QRect frame(dialog.pos(), dialog.size() + owner.frameGeometry().size() - owner.size());
+    const Area place =
+        movedOff(areaOf(frame), areaOf(canvas.frameGeometry()), areaOf(owner.screen()->availableGeometry()));
+    dialog.move(int(place.left), int(place.top));
+}
+
+} // namespace
+
+void showPlayer(QWidget &owner, const QWidget &canvas)
 {
     QDialog dialog;
     QVBoxLayout *contents = startDialog(dialog, "aniply", "Animation Player");
@@ -23,7 +40,8 @@ void showPlayer(QWidget *owner)
     playtext->setText(toQString(texts.playtext));
     if (!texts.stopbut.empty())
         stopbut->setText(toQString(texts.stopbut));
-    CentreDialog(dialog, owner);
+    CentreDialog(dialog, &owner);
+    moveOff(dialog, owner, canvas);
     stayInFront(dialog);
     dialog.exec();
     closePlayer();

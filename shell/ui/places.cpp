@@ -1,9 +1,11 @@
 #include "shell/ui/places.h"
 
+#include "platform/placement.h"
 #include "platform/qt/dialogs.h"
 #include "shell/session.h"
 
 #include <QDeadlineTimer>
+#include <QEvent>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QStyle>
@@ -26,12 +28,55 @@ int twipsY(int pixels) { return static_cast<int>(std::lround(pixels * twipsPerPi
 int pixelsX(int twips) { return static_cast<int>(std::lround(twips / twipsPerPixelX())); }
 int pixelsY(int twips) { return static_cast<int>(std::lround(twips / twipsPerPixelY())); }
 
-// A window that is minimised or maximised counts with the place where it is normal.
+// Remembers where a window stands while it is normal: minimised or maximised, and hidden, it has other borders or none.
+class NormalPlace : public QObject {
+public:
+    explicit NormalPlace(QWidget &watched) : QObject(&watched), window(watched)
+    {
+        setObjectName(name);
+        window.installEventFilter(this);
+    }
+
+    static const NormalPlace *of(const QWidget &window)
+    {
+        return dynamic_cast<const NormalPlace *>(window.findChild<QObject *>(name, Qt::FindDirectChildrenOnly));
+    }
+
+    bool known() const { return size.isValid(); }
+    void take()
+    {
+        const bool normal = !window.isMinimized() && !window.isMaximized() && !window.isFullScreen();
+        if (!normal || !window.isVisible() || !window.windowHandle()->isExposed())
+            return;
+        corner = window.pos();
+        size = window.size();
+    }
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        const QEvent::Type type = event->type();
+        if (type != QEvent::WindowStateChange && type != QEvent::Hide && type != QEvent::Close)
+            take();
+        return false;
+    }
+
+    QPoint corner; // of the frame
+    QSize size;    // without it
+
+private:
+    static inline const QString name = QStringLiteral("normalplace");
+    QWidget &window;
+};
+
 QPoint placeOf(const QWidget &window)
 {
-    if (window.isMaximized() || window.isFullScreen())
-        return window.normalGeometry().topLeft() - (window.geometry().topLeft() - window.pos());
-    return window.pos();
+    const NormalPlace *normal = NormalPlace::of(window);
+    return normal && normal->known() ? normal->corner : window.pos();
+}
+
+QSize sizeOf(const QWidget &window)
+{
+    const NormalPlace *normal = NormalPlace::of(window);
+    return normal && normal->known() ? normal->size : window.size();
 }
 
 // What the window manager puts round a window; an estimate until it has done so.
@@ -57,6 +102,8 @@ ScreenSizes screenSizes(const QWidget &main, const QWidget &canvas)
 
 } // namespace
 
+void rememberPlace(QWidget &window) { new NormalPlace(window); }
+
 WindowSettings windowPlaces(const QWidget &main, const QWidget &canvas)
 {
     WindowSettings places;
@@ -64,7 +111,7 @@ WindowSettings windowPlaces(const QWidget &main, const QWidget &canvas)
     places.MainLeft = twipsX(placeOf(main).x());
     places.PageTop = twipsY(placeOf(canvas).y());
     places.PageLeft = twipsX(placeOf(canvas).x());
-    const QSize size = canvas.isMaximized() ? canvas.normalGeometry().size() : canvas.size();
+    const QSize size = sizeOf(canvas);
     places.PageHeight = twipsY(size.height());
     places.PageWidth = twipsX(size.width());
     return places;
@@ -86,6 +133,17 @@ void placeAtFirst(QWidget &main, QWidget &canvas)
     const QPoint corner = QGuiApplication::primaryScreen()->availableGeometry().topLeft();
     main.move(corner + QPoint(edge, edge));
     canvas.move(main.pos() + QPoint(0, main.height() + frameOf(main).height() + gap));
+}
+
+QRect roomForCanvas(const QWidget &main)
+{
+    const QRect screen = main.screen()->availableGeometry();
+    const QRect frame(placeOf(main), main.size() + frameOf(main));
+    const auto areaOf = [](const QRect &r) {
+        return Area{double(r.x()), double(r.y()), double(r.width()), double(r.height())};
+    };
+    const Area room = roomBeside(areaOf(frame), areaOf(screen));
+    return {int(room.left), int(room.top), int(room.width), int(room.height)};
 }
 
 void waitForFrame(const QWidget &window)

@@ -2,9 +2,13 @@
 
 #include "document/settings.h"
 
+class QRect;
 class QWidget;
 
 namespace corvanta {
+
+// From now on a window's place and size count as they are while it is normal: neither minimised, maximised nor hidden.
+void rememberPlace(QWidget &window);
 
 // The windows' positions and sizes in twips; check marks as in a new record.
 WindowSettings windowPlaces(const QWidget &main, const QWidget &canvas);
@@ -14,6 +18,9 @@ void placeWindows(QWidget &main, QWidget &canvas, const WindowSettings &places);
 
 // Where the windows stand before there are settings: the main window at the top left, the canvas below it.
 void placeAtFirst(QWidget &main, QWidget &canvas);
+
+// The part of the main window's screen where a canvas hides none of its menus and tools.
+QRect roomForCanvas(const QWidget &main);
 
 // Waits, a moment at most, until the window system has framed a window that was just shown: a window that gets another
 // size before that ends up beside its place by its frame.

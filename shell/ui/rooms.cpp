@@ -39,7 +39,7 @@ Rooms::Rooms(EditorWindows &windows) : editor(windows)
     };
     commands.openSharedProperties = [] { OpenSharedProperties(chosenObjects()); };
     commands.exportHtml = ConvertToHtml;
-    commands.playAnimation = [this] { showPlayer(editor.canvas()); };
+    commands.playAnimation = [this] { showPlayer(editor.main(), *editor.canvas()); };
     commands.toggleOdbc = [this](bool shown) { showOdbc(shown); };
 }
 

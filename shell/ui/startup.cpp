@@ -145,6 +145,9 @@ void EditorWindows::loadCanvas()
     running().twipsPerPixel = static_cast<int>(std::lround(twipsPerPixelX()));
     editform = std::make_unique<Editform>();
     hpsedit->setCanvas(editform.get());
+    rememberPlace(*hpsedit);
+    rememberPlace(*editform);
+    editform->room = [this] { return roomForCanvas(*hpsedit); };
     EditformCommands &commands = editform->commands;
     commands.openMenu = [this](char letter) { hpsedit->openMenu(letter); };
     commands.openProperties = [] { runCommand(Command::ObjectProperties); };

@@ -1,3 +1,4 @@
+#include "canvas/page_view.h"
 #include "tests/rules/canvas_page.h"
 
 namespace corvanta {
@@ -39,6 +40,44 @@ INSTANTIATE_TEST_SUITE_P(Handles, CanvasResize,
                                          ResizeCase{Handle::Bottom, {100, 50, 80, 15}, {100, 50, 80, 4}},
                                          ResizeCase{Handle::BottomLeft, {120, 50, 60, 15}, {176, 50, 4, 4}},
                                          ResizeCase{Handle::Left, {120, 50, 60, 40}, {176, 50, 4, 40}}));
+
+TEST(CanvasView, ThePageFollowsTheUsersWindow)
+{
+    constexpr int bar = 10;
+    const Size room{1000, 700};
+    struct Case {
+        Size page;
+        std::vector<Size> views; // that the user gives one after the other
+        Size expected;
+    };
+    const Case cases[]{
+        {{400, 300}, {{450, 320}}, {450, 320}},
+        {{400, 300}, {{450, 300}, {380, 300}}, {380, 300}},
+        {{400, 900}, {{450, 700}}, {440, 900}},             // the vertical bar
+        {{400, 900}, {{410, 950}}, {400, 950}},             // goes
+        {{400, 900}, {{410, 950}, {410, 800}}, {400, 800}}, // it fits now
+        {{400, 900}, {{410, 500}, {410, 600}}, {400, 900}},
+        {{3000, 300}, {{1000, 350}}, {3000, 340}},
+        {{3000, 2000}, {{500, 400}}, {3000, 2000}},
+        {{3000, 2000}, {{3100, 2100}, {600, 500}}, {600, 500}},
+        {{400, 300}, {{400, -5}}, {400, 300}},
+    };
+    for (const Case &c : cases) {
+        Size page = c.page, view = viewOf(page, room, bar);
+        const Size bars = barsFor(page, view, bar);
+        Size fitted{view.width - bars.width, view.height - bars.height};
+        for (const Size next : c.views) {
+            const Size after = pageSizeFor(page, fitted, view, next, bar);
+            fitted = {after.width == page.width ? fitted.width : after.width,
+                      after.height == page.height ? fitted.height : after.height};
+            page = after;
+            view = next;
+        }
+        EXPECT_EQ(page, c.expected) << c.page.width << "x" << c.page.height;
+    }
+    EXPECT_EQ(viewOf({400, 900}, room, bar), (Size{410, 700}));
+    EXPECT_EQ(viewOf({995, 900}, room, bar), (Size{1000, 700}));
+}
 
 } // namespace
 } // namespace corvanta

@@ -123,6 +123,11 @@ TEST(ShellPlaces, WindowsStayOnTheScreen)
     EXPECT_EQ(kept.PageTop, 5600); // the frame's bottom meets the screen's
     EXPECT_EQ(kept.PageLeft, 0);
     EXPECT_EQ(kept.PageHeight, 6000);
+    EXPECT_EQ(kept.PageWidth, 15000);
+    WindowSettings high = stored;
+    high.PageHeight = 20000;
+    EXPECT_EQ(keptOnScreen(high, sizes).PageTop, 0);
+    EXPECT_EQ(keptOnScreen(high, sizes).PageHeight, 11600);
 }
 
 } // namespace corvanta

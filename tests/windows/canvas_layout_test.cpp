@@ -5,6 +5,9 @@
 
 #include <QPainter>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QWindow>
 
 #include <filesystem>
 
@@ -42,6 +45,53 @@ TEST_F(CanvasLayout, ResizingTheWindowResizesThePage)
     EXPECT_EQ(page().bkght, 320);
     EXPECT_EQ(form.pageArea().size(), QSize(450, 320));
     EXPECT_TRUE(editing().pagedirty);
+    form.resize(before);
+    EXPECT_EQ(page().bkgwd, 400) << "the way back";
+    EXPECT_EQ(page().bkght, 300);
+}
+
+TEST_F(CanvasLayout, ANewPageThatTheUserResizesIsSavedWithThatSize)
+{
+    newPage();
+    EXPECT_FALSE(editing().pagedirty);
+    form.resize(form.size() + QSize(50, 20));
+    const Page saved = [] {
+        Page p;
+        parsePage(p, pageText());
+        return p;
+    }();
+    EXPECT_EQ(saved.bkgwd, form.width());
+    EXPECT_TRUE(editing().pagedirty);
+}
+
+TEST_F(CanvasLayout, AUsersSizeCountsAtOnceAndTheAnswersToOursDoNot)
+{
+    const auto tell = [&](QSize size) { // as the window system does
+        form.windowHandle()->resize(size);
+        QCoreApplication::processEvents();
+    };
+    const QSize first = form.size();
+    form.showStatusPanel(false);
+    const QSize second = form.size();
+    tell(first);
+    tell(second);
+    EXPECT_FALSE(editing().pagedirty);
+    EXPECT_EQ(page().bkght, 300);
+    tell(second + QSize(30, 40));
+    EXPECT_EQ(page().bkgwd, 430);
+    EXPECT_EQ(page().bkght, 340);
+    tell(first);
+    EXPECT_EQ(page().bkgwd, 400) << "an old size is the user's as well";
+}
+
+TEST_F(CanvasLayout, APageThatIsTooHighGetsNoHorizontalScrollBar)
+{
+    page().bkght = 5000;
+    form.applyPageLayout();
+    auto &scroller = *form.findChild<QScrollArea *>();
+    EXPECT_TRUE(scroller.verticalScrollBar()->isVisible());
+    EXPECT_FALSE(scroller.horizontalScrollBar()->isVisible());
+    EXPECT_EQ(page().bkgwd, 400);
 }
 
 TEST_F(CanvasLayout, APageWithItsImagesSizeKeepsIt)
