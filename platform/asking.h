@@ -22,9 +22,10 @@ struct MessageBox {
     std::string title;
     Icon icon = Icon::Exclamation;
     Buttons buttons = Buttons::Ok;
-    std::string detail = {};                // said below the text in smaller letters; may be empty
-    std::string further = {};               // shown on demand, to scroll and copy
-    std::vector<std::string> captions = {}; // buttons of its own in place of Buttons, with access keys; the last cancels
+    std::string detail = {};  // said below the text in smaller letters; may be empty
+    std::string further = {}; // shown on demand, to scroll and copy
+    std::vector<std::string> captions =
+        {}; // buttons of its own in place of Buttons, with access keys; the last cancels
 };
 
 struct FileDialog {
