@@ -222,9 +222,11 @@ void Editform::changeEvent(QEvent *event)
     QWidget::changeEvent(event);
     if (event->type() != QEvent::WindowStateChange || !isVisible())
         return;
-    const bool wasMaximised =
-        static_cast<QWindowStateChangeEvent *>(event)->oldState() & (Qt::WindowMaximized | Qt::WindowFullScreen);
-    restoring = isNormal() && wasMaximised && geometry() != normalGeometry();
+    const Qt::WindowStates before = static_cast<QWindowStateChangeEvent *>(event)->oldState();
+    const bool wasMaximised = before & (Qt::WindowMaximized | Qt::WindowFullScreen);
+    if (before == Qt::WindowNoState)
+        normalPlace = geometry();
+    restoring = isNormal() && wasMaximised && geometry() != normalPlace;
     if (isNormal() && !restoring)
         QTimer::singleShot(0, this, [this] { applyPageLayout(); });
 }

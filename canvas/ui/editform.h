@@ -79,6 +79,7 @@ private:
     QList<QSize> asked;     // sizes that the window system may still answer with, in the order of asking
     Size fitted;            // the part of the page that the window showed when it took the page's size
     bool inLayout = false;  // resizes are of the program's making
+    QRect normalPlace;      // of the window without its frame, before it was maximised
     bool restoring = false; // the window is normal again but does not stand in its normal place yet
 };
 
