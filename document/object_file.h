@@ -10,11 +10,14 @@ namespace corvanta {
 
 // The bytes of an object file.
 std::string objectFileText(const Page &p, std::int16_t index);
+// What is wrong with bytes that are to be an object file, for a sentence about it; empty when nothing is.
+std::string objectFileFault(std::string_view text);
 // Appends the object of an object file's bytes; the page's version stays. Returns its index or noObject.
 std::int16_t appendObjectFile(Page &p, std::string_view text);
 
-void saveObject();      // asks for a file and writes the current object
-void loadObject();      // asks for a file and appends its object
-void duplicateObject(); // appends a copy of the current object in the same place
+void saveObject(); // asks for a file and writes the current object
+// Both give the index of the object that they append, or noObject.
+std::int16_t loadObject();      // asks for a file
+std::int16_t duplicateObject(); // a copy of the current object in the same place
 
 } // namespace corvanta

@@ -58,6 +58,16 @@ void restack(bool toFront)
 
 void align(AlignMode mode) { alignSelection(static_cast<std::int16_t>(mode)); }
 
+// So that the next command acts on what the author sees appear.
+void makeCurrent(std::int16_t index)
+{
+    if (index == noObject)
+        return;
+    clearMultiSelection();
+    selectObject(index);
+    showTrackers();
+}
+
 } // namespace
 
 RoomCommands &roomCommands()
@@ -205,8 +215,8 @@ void runCommand(Command command)
     case Command::AlignTop: align(AlignMode::Top); break;
     case Command::AlignBottom: align(AlignMode::Bottom); break;
     case Command::Animate: tell(rooms.playAnimation); break;
-    case Command::Duplicate: duplicateObject(); break;
-    case Command::LoadObject: loadObject(); break;
+    case Command::Duplicate: makeCurrent(duplicateObject()); break;
+    case Command::LoadObject: makeCurrent(loadObject()); break;
     case Command::SaveObject: saveObject(); break;
     case Command::Delete: deleteSelection(); break;
     case Command::HelpContents: tell(rooms.helpContents); break;
@@ -237,9 +247,7 @@ void addFromMenu(int menuIndex)
     const std::int16_t index = kind ? addObject(*kind) : noObject;
     if (index == noObject)
         return;
-    clearMultiSelection();
-    selectObject(index); // so that the next command acts on what the author sees appear
-    showTrackers();
+    makeCurrent(index);
     pageEdited("Add " + objectName(object(index).kind));
 }
 

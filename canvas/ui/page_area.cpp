@@ -1,7 +1,7 @@
 #include "canvas/ui/page_area.h"
 
+#include "canvas/ui/page_accessible.h"
 #include "canvas/ui/paint.h"
-#include "document/media.h"
 
 #include <QDropEvent>
 #include <QMimeData>
@@ -14,6 +14,7 @@ PageArea::PageArea(QWidget *parent) : QWidget(parent)
 {
     setObjectName(QStringLiteral("page"));
     setAccessibleName(QStringLiteral("Page"));
+    installPageAccessibility();
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setAcceptDrops(true);
@@ -25,15 +26,10 @@ void PageArea::paintEvent(QPaintEvent *event)
     QPainter painter(this);
     Page &p = page();
     paintPageBackground(painter, p, event->rect());
-    for (std::int16_t i = 0; i < objectCount(p); ++i) {
-        const ObjectRecord &o = p.objects[static_cast<std::size_t>(i)];
-        const auto kind = kindOf(o.kind);
-        const QRect place(o.pleft, o.ptop, o.pwidth, o.pheight);
-        if (!kind || !kindRow(*kind).drawnOnPage || !place.intersects(event->rect()))
-            continue;
-        if (*kind == Kind::Image)
-            imagePicture(p, i);
-        paintObject(painter, p, i, place);
+    for (const std::int16_t index : drawnOnPage(p)) {
+        const ObjectRecord &o = p.objects[static_cast<std::size_t>(index)];
+        if (event->rect().intersects(QRect(o.pleft, o.ptop, o.pwidth, o.pheight)))
+            paintPlaced(painter, p, index);
     }
 }
 

@@ -9,7 +9,18 @@
 
 #include <QPainter>
 
+#include <algorithm>
+
 namespace corvanta {
+
+namespace {
+
+std::optional<Kind> kindAt(const Page &p, std::int16_t index)
+{
+    return kindOf(p.objects[static_cast<std::size_t>(index)].kind);
+}
+
+} // namespace
 
 QFont fontOf(const FontBlock &font)
 {
@@ -50,7 +61,7 @@ void paintObject(QPainter &painter, const Page &p, std::int16_t index, const QRe
     painter.save();
     painter.setClipRect(rect, Qt::IntersectClip);
     switch (*kind) {
-    case Kind::Button: paintButton(painter, p.but.at(n), rect); break;
+    case Kind::Button: paintButton(painter, p.but.at(n), o.alignment, rect); break;
     case Kind::HotSpot: paintHotSpot(painter, o, rect); break;
     case Kind::ListBox:
         paintListBox(painter, p.lbx.at(n), live.emptied ? std::vector<ListBoxEntry>{} : p.lbxextras.at(n), o.alignment,
@@ -70,6 +81,14 @@ void paintObject(QPainter &painter, const Page &p, std::int16_t index, const QRe
     painter.restore();
 }
 
+void paintPlaced(QPainter &painter, Page &p, std::int16_t index)
+{
+    if (kindAt(p, index) == Kind::Image)
+        imagePicture(p, index);
+    const ObjectRecord &o = p.objects[static_cast<std::size_t>(index)];
+    paintObject(painter, p, index, QRect(o.pleft, o.ptop, o.pwidth, o.pheight));
+}
+
 void paintPageBackground(QPainter &painter, const Page &p, const QRect &rect)
 {
     painter.fillRect(rect, toQColor(p.bkgcol));
@@ -77,19 +96,25 @@ void paintPageBackground(QPainter &painter, const Page &p, const QRect &rect)
         painter.drawImage(rect.topLeft(), *image, rect);
 }
 
+std::vector<std::int16_t> drawnOnPage(const Page &p)
+{
+    std::vector<std::int16_t> drawn;
+    for (std::int16_t i = 0; i < objectCount(p); ++i)
+        if (const auto kind = kindAt(p, i); kind && kindRow(*kind).drawnOnPage)
+            drawn.push_back(i);
+    std::ranges::stable_partition(drawn, [&](std::int16_t i) { return kindAt(p, i) != Kind::HotSpot; });
+    return drawn;
+}
+
 void paintPage(QPainter &painter, Page &p)
 {
     paintPageBackground(painter, p, QRect(0, 0, p.bkgwd, p.bkght));
-    for (const bool onPage : {true, false}) // what is drawn on the page lies below the controls
-        for (std::int16_t i = 0; i < objectCount(p); ++i) {
-            const ObjectRecord &o = p.objects[static_cast<std::size_t>(i)];
-            const auto kind = kindOf(o.kind);
-            if (!kind || kindRow(*kind).drawnOnPage != onPage)
-                continue;
-            if (*kind == Kind::Image)
-                imagePicture(p, i);
-            paintObject(painter, p, i, QRect(o.pleft, o.ptop, o.pwidth, o.pheight));
-        }
+    std::vector<std::int16_t> order = drawnOnPage(p); // below the controls
+    for (std::int16_t i = 0; i < objectCount(p); ++i)
+        if (const auto kind = kindAt(p, i); kind && !kindRow(*kind).drawnOnPage)
+            order.push_back(i);
+    for (const std::int16_t i : order)
+        paintPlaced(painter, p, i);
 }
 
 } // namespace corvanta

@@ -4,6 +4,8 @@
 
 #include <QRect>
 
+#include <vector>
+
 class QPainter;
 
 // The pictures of objects: an object's record, element and side tables as pixels. Nothing here knows a
@@ -27,7 +29,13 @@ inline constexpr int newPageWidth = 600, newPageHeight = 400;
 // The background colour and picture of the page.
 void paintPageBackground(QPainter &painter, const Page &p, const QRect &rect);
 
-// Paints a whole page with all its objects in table order; loads the pictures of its Images.
+// The objects that are drawn on the page itself, from the lowest up: Hot Spots lie over all others, as they are hit.
+std::vector<std::int16_t> drawnOnPage(const Page &p);
+
+// Paints an object in its place on the page; loads the picture of an Image.
+void paintPlaced(QPainter &painter, Page &p, std::int16_t index);
+
+// Paints a whole page: what is drawn on it, and above that its controls in table order.
 void paintPage(QPainter &painter, Page &p);
 
 // Pixels that a ticker's text takes, and those that its strip shows.

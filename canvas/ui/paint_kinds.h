@@ -17,7 +17,7 @@ QString shownText(const std::string &bytes);
 // Qt's horizontal flag of an object's alignment.
 int alignmentFlag(std::int16_t alignment);
 
-void paintButton(QPainter &painter, const Element &button, const QRect &rect);
+void paintButton(QPainter &painter, const Element &button, std::int16_t alignment, const QRect &rect);
 void paintLabel(QPainter &painter, const Element &label, std::int16_t alignment, const QRect &rect);
 void paintListBox(QPainter &painter, const Element &list, const std::vector<ListBoxEntry> &entries,
                   std::int16_t alignment, const QRect &rect);

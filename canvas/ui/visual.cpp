@@ -1,5 +1,6 @@
 #include "canvas/ui/visual.h"
 
+#include "platform/qt/dialogs.h"
 #include "platform/qt/text.h"
 
 #include <QPainter>
@@ -20,14 +21,19 @@ QRect frameRect(const Page &p, const Visual &visual, const QRect &resting)
     return {QPoint(frame->left, frame->top), size};
 }
 
-QString accessibleNameOf(const Page &p, std::int16_t index, Kind kind)
-{
-    const QString name = QString::fromLatin1(kindRow(kind).displayName);
-    const Element *element = elementOf(p, index);
-    return element && !element->Caption.empty() ? name + QStringLiteral(" ") + toQString(element->Caption) : name;
-}
-
 } // namespace
+
+QString accessibleNameOf(const Page &p, std::int16_t index)
+{
+    const ObjectRecord &o = p.objects[static_cast<std::size_t>(index)];
+    const auto kind = kindOf(o.kind);
+    if (!kind)
+        return {};
+    const Element *element = elementOf(p, index);
+    const bool access = *kind == Kind::Button || *kind == Kind::Label || *kind == Kind::Url; // an "&" marks a key
+    const QString text = toQString(element ? element->Caption : o.sptext);
+    return (QString::fromLatin1(kindRow(*kind).displayName) + ' ' + (access ? plainLabel(text) : text)).trimmed();
+}
 
 Visual::Visual(QWidget &pageArea, ControlReference control) : QWidget(&pageArea), reference(control)
 {
@@ -57,7 +63,7 @@ void Visual::refresh()
     const QRect resting(o.pleft, o.ptop, o.pwidth, o.pheight);
     const bool playing = kindOfControl(reference) == Kind::Animation && !state.bordered;
     setGeometry(playing ? frameRect(p, *this, resting) : resting);
-    setAccessibleName(accessibleNameOf(p, i, kindOfControl(reference)));
+    setAccessibleName(accessibleNameOf(p, i));
     update();
 }
 

@@ -7,6 +7,9 @@
 
 namespace corvanta {
 
+// What assistive technology calls an object: its kind with its caption, or its status text if it has none.
+QString accessibleNameOf(const Page &p, std::int16_t index);
+
 // The control of a windowed object on the page: a view of its element that paints itself and leaves all
 // mouse and key events to whoever watches it.
 class Visual : public QWidget {

@@ -7,7 +7,11 @@
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QLineEdit>
+#include <QRegularExpression>
+#include <QScreen>
+#include <QTreeView>
 
 #include <filesystem>
 
@@ -53,6 +57,8 @@ bool hasDrivePath(const std::filesystem::path &host)
     return !path.empty() && hostPath(path) == host;
 }
 
+constexpr int columnMargin = 24; // pixels
+
 class FileWindow : public QFileDialog {
 public:
     FileWindow(const FileDialog &asked, QWidget *owner) : QFileDialog(owner), question(asked)
@@ -68,6 +74,7 @@ public:
         setDirectory(hostText(isDirectory(start) ? start : hostPath(currentDirectory())));
         nameEdit()->setText(toQString(question.fileName));
         nameEdit()->selectAll();
+        widenForColumns();
     }
 
     void accept() override
@@ -90,6 +97,24 @@ public:
     }
 
 private:
+    // Names, sizes, kinds and dates are to be read without dragging the columns.
+    void widenForColumns()
+    {
+        auto *list = findChild<QTreeView *>("treeView");
+        if (!list)
+            return;
+        const QString samples[] = {QString(24, 'n'), "1023.99 KiB", "Microsoft Word", "30 Sep 2026 22:22:22 PM"};
+        int width = 0;
+        for (int column = 0; column < 4; ++column) {
+            const int wanted = list->fontMetrics().horizontalAdvance(samples[column]) + columnMargin;
+            list->header()->resizeSection(column, wanted);
+            width += wanted;
+        }
+        constexpr QSize around(160, 0); // the places at the left, and the frame
+        resize(QSize(width, height()).expandedTo(sizeHint()) + around);
+        resize(size().boundedTo(screen()->availableSize() - QSize(16, 40)));
+    }
+
     QLineEdit *nameEdit() { return findChild<QLineEdit *>("fileNameEdit"); }
 
     std::filesystem::path withExtension(const std::filesystem::path &host) const
@@ -108,10 +133,14 @@ private:
 
 QStringList nameFilters(const std::string &filter)
 {
+    static const QRegularExpression patternInText("\\*\\.[\\w*]+");
     QStringList filters;
     const QStringList parts = toQString(filter).split('|');
     for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
         QStringList patterns = parts[i + 1].split(';', Qt::SkipEmptyParts);
+        for (const auto &named : patternInText.globalMatch(parts[i]))
+            if (!patterns.contains(named.captured()))
+                patterns.append(named.captured());
         patterns.replaceInStrings("*.*", "*");
         filters.append(parts[i] + " (" + patterns.join(' ') + ')');
     }

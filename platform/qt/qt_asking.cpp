@@ -11,7 +11,10 @@
 #include <QColorDialog>
 #include <QGridLayout>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
+
+#include <memory>
 
 namespace corvanta {
 
@@ -110,11 +113,17 @@ std::optional<std::int32_t> showColourDialog(std::int32_t initial, QWidget *owne
 
 void installAsking(std::function<QWidget *()> owner)
 {
-    const auto window = [owner = std::move(owner)]() -> QWidget * {
+    const auto worked = std::make_shared<QPointer<QWidget>>(); // none is active while one dialog follows another
+    QObject::connect(qApp, &QApplication::focusChanged, qApp, [worked](QWidget *, QWidget *now) {
+        if (now && !now->window()->isModal() && now->window()->windowType() != Qt::Popup)
+            *worked = now->window();
+    });
+    const auto window = [worked, owner = std::move(owner)]() -> QWidget * {
         if (QWidget *modal = QApplication::activeModalWidget())
             return modal;
-        QWidget *active = QApplication::activeWindow();
-        return active ? active : owner();
+        if (QWidget *active = QApplication::activeWindow())
+            return active;
+        return *worked && (*worked)->isVisible() ? worked->data() : owner();
     };
     Asking &questions = asking();
     questions.messageBox = [window](const MessageBox &box) { return showBox(box, window()); };

@@ -1,6 +1,7 @@
 #include "shell/ui/places.h"
 
 #include "platform/placement.h"
+#include "platform/profile.h"
 #include "platform/qt/dialogs.h"
 #include "shell/session.h"
 
@@ -20,7 +21,8 @@ namespace corvanta {
 
 namespace {
 
-constexpr int edge = 12, gap = 24;    // pixels to the screen's edge, and between the windows
+constexpr int edge = 12, gap = 24; // pixels to the screen's edge, and between the windows
+constexpr const char *settingsFile = "CORVANTA.INI";
 constexpr int longestFrameWait = 300; // milliseconds
 
 int twipsX(int pixels) { return static_cast<int>(std::lround(pixels * twipsPerPixelX())); }
@@ -103,6 +105,39 @@ ScreenSizes screenSizes(const QWidget &main, const QWidget &canvas)
 } // namespace
 
 void rememberPlace(QWidget &window) { new NormalPlace(window); }
+
+void putBack(QWidget &window)
+{
+    const NormalPlace *normal = NormalPlace::of(window);
+    if (!normal || !normal->known())
+        return;
+    window.move(normal->corner +
+                QPoint(1, 0)); // to the place that it has already, a move would tell the screen nothing
+    window.move(normal->corner);
+}
+
+void storePlace(const QWidget &window)
+{
+    const NormalPlace *normal = NormalPlace::of(window);
+    if (!normal || !normal->known())
+        return;
+    const std::string section = window.windowTitle().toStdString();
+    WritePrivateProfileString(section, "Top", profileNumber(twipsY(normal->corner.y())), settingsFile);
+    WritePrivateProfileString(section, "Left", profileNumber(twipsX(normal->corner.x())), settingsFile);
+}
+
+void restorePlace(QWidget &window)
+{
+    const std::string section = window.windowTitle().toStdString();
+    const auto stored = [&](const char *key) { return GetPrivateProfileInt(section, key, -1, settingsFile); };
+    const int top = stored("Top"), left = stored("Left");
+    if (top < 0 || left < 0)
+        return;
+    const QSize screen = QGuiApplication::primaryScreen()->virtualSize();
+    const QSize size = window.sizeHint() + frameOf(window);
+    window.move(keptOnScreen(pixelsX(left), size.width(), screen.width()),
+                keptOnScreen(pixelsY(top), size.height(), screen.height()));
+}
 
 WindowSettings windowPlaces(const QWidget &main, const QWidget &canvas)
 {

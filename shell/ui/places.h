@@ -10,6 +10,13 @@ namespace corvanta {
 // From now on a window's place and size count as they are while it is normal: neither minimised, maximised nor hidden.
 void rememberPlace(QWidget &window);
 
+// Moves a window that was hidden to where it stood; nothing before it has been on the screen.
+void putBack(QWidget &window);
+
+// Keeps the place of a window that is remembered between runs of the program, under its title; puts it there again.
+void storePlace(const QWidget &window);
+void restorePlace(QWidget &window);
+
 // The windows' positions and sizes in twips; check marks as in a new record.
 WindowSettings windowPlaces(const QWidget &main, const QWidget &canvas);
 

@@ -12,6 +12,7 @@
 #include "shell/ui/aniply.h"
 #include "shell/ui/hpsedit.h"
 #include "shell/ui/icons.h"
+#include "shell/ui/places.h"
 #include "shell/ui/startup.h"
 
 namespace corvanta {
@@ -45,6 +46,8 @@ Rooms::Rooms(EditorWindows &windows) : editor(windows)
 
 Rooms::~Rooms()
 {
+    if (odbcdbs)
+        storePlace(*odbcdbs);
     RoomCommands &commands = roomCommands();
     commands.openObjectProperties = {};
     commands.openPageProperties = {};
@@ -58,10 +61,15 @@ void Rooms::showOdbc(bool shown)
 {
     if (!odbcdbs && shown) {
         odbcdbs = std::make_unique<Odbcdbs>(editor.main(), kindIcon);
+        rememberPlace(*odbcdbs);
+        restorePlace(*odbcdbs);
         odbcdbs->closed = odbcToolbarClosed;
     }
-    if (odbcdbs)
-        odbcdbs->setVisible(shown);
+    if (!odbcdbs)
+        return;
+    if (shown)
+        putBack(*odbcdbs);
+    odbcdbs->setVisible(shown);
 }
 
 } // namespace corvanta

@@ -37,6 +37,7 @@
 #include <QTimer>
 
 #include <cmath>
+#include <ranges>
 
 namespace corvanta {
 
@@ -175,7 +176,13 @@ void installDesktop()
     installClipboard();
     installHelp();
     installHelpKey();
-    installAsking([]() -> QWidget * { return nullptr; });
+    installAsking([]() -> QWidget * {
+        if (switchableWindows())
+            for (QWidget *window : switchableWindows()() | std::views::reverse) // the canvas, if it is there
+                if (window && window->isVisible())
+                    return window;
+        return nullptr;
+    });
     asking().askText = showInput;
     RoomCommands &commands = roomCommands();
     commands.showDirectory = showDirectory;

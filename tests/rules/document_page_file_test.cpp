@@ -92,6 +92,37 @@ TEST(ObjectFile, VersionOneAnimationHasNoStrictTimingAndThePageKeepsItsVersion)
     EXPECT_EQ(objectFileText(p, index), samples::sample("lamp.hdo"));
 }
 
+TEST(ObjectFile, SaysWhatIsWrongWithIt)
+{
+    const std::string lamp = samples::sample("lamp.hdo");
+    std::string old = lamp; // version 1 had no strict timing
+    old[0] = 1;
+    old.erase(old.size() - 6 - 3 * 6 + 4, 2);
+    old[2] = static_cast<char>(old[2] - 2);
+    std::string unknown = lamp;
+    unknown[4] = 14;
+    const auto shortened = [&](std::size_t by) { // the length says so as well
+        std::string text = lamp.substr(0, lamp.size() - by);
+        text[2] = static_cast<char>(text[2] - static_cast<char>(by));
+        return text;
+    };
+    const std::pair<std::string, std::string> cases[]{
+        {lamp, ""},
+        {samples::sample("quitbutton.hdo"), ""},
+        {old, ""},
+        {samples::sample("record.ods"), "is a page"},
+        {serialisePage(Page()), "is a page"},
+        {unknown, "holds no object of a known kind"},
+        {lamp.substr(0, lamp.size() - 1), "is damaged"},
+        {lamp + "x", "is damaged or no object file"},
+        {"GIF89a", "is damaged or no object file"},
+        {shortened(1), "is damaged"},
+        {shortened(20), "is damaged"},
+    };
+    for (const auto &[text, fault] : cases)
+        EXPECT_EQ(objectFileFault(text), fault);
+}
+
 class PageFileMessages : public FreshPage {};
 
 TEST_F(PageFileMessages, AreToldAndNoFileIsMadeOrChanged)

@@ -3,6 +3,7 @@
 #include "tests/windows/canvas_form.h"
 #include "tests/windows/drops.h"
 
+#include <QAccessible>
 #include <QDialog>
 #include <QMenu>
 
@@ -189,6 +190,29 @@ TEST_F(CanvasInputTest, ADragEndsWithWhateverTakesTheMouse)
         form.setEnabled(true);
     }
     EXPECT_EQ(recordRect(0), QRect(60, 50, 90, 40));
+}
+
+TEST_F(CanvasInputTest, WhatIsDrawnOnThePageIsAccessibleToo)
+{
+    const auto spot = add(Kind::HotSpot, QRect(20, 30, 80, 40));
+    add(Kind::Button, QRect(150, 30, 80, 40));
+    elementOf(page(), 1)->Caption = "&Go";
+    documentEvents().objectChanged(1);
+    QAccessibleInterface *area = QAccessible::queryAccessibleInterface(&form.pageArea());
+    const auto named = [&](const QString &name) -> QAccessibleInterface * {
+        for (int i = 0; i < area->childCount(); ++i)
+            if (area->child(i)->text(QAccessible::Name) == name && area->indexOfChild(area->child(i)) == i)
+                return area->child(i);
+        return nullptr;
+    };
+    EXPECT_NE(named("Button Go"), nullptr);
+    QAccessibleInterface *drawn = named("Hot Spot HotSpot1");
+    ASSERT_NE(drawn, nullptr);
+    EXPECT_EQ(drawn->rect(), QRect(form.pageArea().mapToGlobal(QPoint(20, 30)), QSize(80, 40)));
+    const QPoint inside = drawn->rect().center();
+    EXPECT_EQ(area->childAt(inside.x(), inside.y()), drawn);
+    deleteObject(spot);
+    EXPECT_FALSE(drawn->isValid());
 }
 
 TEST_F(CanvasInputTest, AToolIsDroppedAtThePointAndKeptOnThePage)

@@ -184,3 +184,26 @@ TEST(CanvasPaint, PageDrawnObjectsLieBelowControlsAndHotSpotsShowWhatIsBelow)
     EXPECT_NE(picture.pixel(75, 40), red) << "the area is tinted";
     EXPECT_GT(qRed(picture.pixel(75, 40)), 150) << "and translucent";
 }
+
+TEST(CanvasPaint, AButtonsCaptionFollowsItsAlignment)
+{
+    Painted button(Kind::Button);
+    button.element().Caption = "I";
+    button.element().BevelWidth = 0;
+    int before = 0;
+    for (const std::int16_t alignment : {0, 2, 1}) { // left, centre, right
+        button.record().alignment = alignment;
+        const QRect text = extent(button.image(QRect(0, 0, 200, 40)).copy(2, 8, 196, 24),
+                                  [](QRgb pixel) { return qGray(pixel) < 100; });
+        EXPECT_GT(text.left(), before) << alignment;
+        before = text.left() + 30;
+    }
+}
+
+TEST(CanvasPaint, HotSpotsLieOverImagesAsTheyAreHit)
+{
+    Page p;
+    for (const Kind kind : {Kind::HotSpot, Kind::Image, Kind::Button, Kind::ImageDb, Kind::HotSpot})
+        createVisual(p, encodeInt16(static_cast<std::int16_t>(kind)));
+    EXPECT_EQ(drawnOnPage(p), (std::vector<std::int16_t>{1, 3, 0, 4}));
+}

@@ -1,5 +1,6 @@
 #include "platform/asking.h"
 #include "platform/paths.h"
+#include "platform/qt/file_dialog.h"
 #include "platform/qt/qt_asking.h"
 #include "tests/support/modal_driver.h"
 #include "tests/support/temporary_drive.h"
@@ -14,7 +15,9 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTest>
+#include <QTreeView>
 
 namespace corvanta {
 namespace {
@@ -77,6 +80,40 @@ FileDialog saveQuestion()
     question.mustExist = false;
     question.overwritePrompt = true;
     return question;
+}
+
+TEST_F(QtAsking, AFilterListsWhatItsCaptionNamesToo)
+{
+    const std::string objects = "ODBC Object Files (*.odo)|*.hdo|All Files (*.*)|*.*";
+    EXPECT_EQ(nameFilters(objects), (QStringList{"ODBC Object Files (*.odo) (*.hdo *.odo)", "All Files (*.*) (*)"}));
+    driver.expect("QFileDialog", [](QWidget &window) {
+        auto &list = find<QTreeView>(window, "treeView");
+        EXPECT_EQ(list.horizontalScrollBar()->maximum(), 0) << "every column is seen";
+        dynamic_cast<QDialog &>(window).reject();
+    });
+    asking().fileDialog(openQuestion());
+}
+
+TEST_F(QtAsking, QuestionsStandOverTheWindowThatWasWorkedIn)
+{
+    QLineEdit work;
+    QDialog dialog;
+    work.show();
+    work.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&work));
+    dialog.setModal(true);
+    dialog.show();
+    dialog.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    dialog.hide();
+    QApplication::setActiveWindow(nullptr);
+    QWidget *over = nullptr;
+    driver.expect("messagebox", [&](QWidget &window) {
+        over = window.parentWidget();
+        dynamic_cast<QDialog &>(window).reject();
+    });
+    showMessage({"Gone?", "A"});
+    EXPECT_EQ(over, &work);
 }
 
 TEST_F(QtAsking, OpensByAnyWayToWriteTheName)
