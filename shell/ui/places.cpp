@@ -16,6 +16,8 @@
 #include <QWindow>
 
 #include <cmath>
+#include <optional>
+#include <utility>
 
 namespace corvanta {
 
@@ -39,9 +41,9 @@ public:
         window.installEventFilter(this);
     }
 
-    static const NormalPlace *of(const QWidget &window)
+    static NormalPlace *of(const QWidget &window)
     {
-        return dynamic_cast<const NormalPlace *>(window.findChild<QObject *>(name, Qt::FindDirectChildrenOnly));
+        return dynamic_cast<NormalPlace *>(window.findChild<QObject *>(name, Qt::FindDirectChildrenOnly));
     }
 
     bool known() const { return size.isValid(); }
@@ -50,6 +52,8 @@ public:
         const bool normal = !window.isMinimized() && !window.isMaximized() && !window.isFullScreen();
         if (!normal || !window.isVisible() || !window.windowHandle()->isExposed())
             return;
+        if (const auto place = std::exchange(wanted, std::nullopt))
+            window.move(*place);
         corner = window.pos();
         size = window.size();
     }
@@ -61,8 +65,9 @@ public:
         return false;
     }
 
-    QPoint corner; // of the frame
-    QSize size;    // without it
+    QPoint corner;                // of the frame
+    QSize size;                   // without it
+    std::optional<QPoint> wanted; // when the window system has placed the window where it likes
 
 private:
     static inline const QString name = QStringLiteral("normalplace");
@@ -108,12 +113,9 @@ void rememberPlace(QWidget &window) { new NormalPlace(window); }
 
 void putBack(QWidget &window)
 {
-    const NormalPlace *normal = NormalPlace::of(window);
-    if (!normal || !normal->known())
-        return;
-    window.move(normal->corner +
-                QPoint(1, 0)); // to the place that it has already, a move would tell the screen nothing
-    window.move(normal->corner);
+    NormalPlace *normal = NormalPlace::of(window);
+    if (normal && normal->known())
+        normal->wanted = normal->corner;
 }
 
 void storePlace(const QWidget &window)
@@ -135,8 +137,8 @@ void restorePlace(QWidget &window)
         return;
     const QSize screen = QGuiApplication::primaryScreen()->virtualSize();
     const QSize size = window.sizeHint() + frameOf(window);
-    window.move(keptOnScreen(pixelsX(left), size.width(), screen.width()),
-                keptOnScreen(pixelsY(top), size.height(), screen.height()));
+    NormalPlace::of(window)->wanted = QPoint(keptOnScreen(pixelsX(left), size.width(), screen.width()),
+                                             keptOnScreen(pixelsY(top), size.height(), screen.height()));
 }
 
 WindowSettings windowPlaces(const QWidget &main, const QWidget &canvas)
