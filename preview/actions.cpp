@@ -15,8 +15,6 @@ namespace corvanta {
 namespace {
 
 constexpr int deepestList = 8, mostActions = 200;
-constexpr const char *readingOnly =
-    "The preview only reads: start it with --write to have such statements carried out.";
 
 long parsed(const std::string &text, long fallback)
 {
@@ -244,7 +242,6 @@ private:
         if (!parts.write) {
             entry.kind = JournalEntry::Kind::Shown;
             parts.journal.add(std::move(entry));
-            note(readingOnly);
             return false;
         }
         const SqlResult result = parts.sources.change(sourceOf(p), filled.statement, mostRows);

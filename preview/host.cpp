@@ -37,10 +37,14 @@ PreviewAnswer PreviewHost::answer(const PreviewRequest &request)
 {
     if (request.path.empty())
         return redirection(pageLocation(parts.pages.start));
-    if (request.path == ".preview.js")
-        return {200, "text/javascript; charset=utf-8", stripScript, {}};
-    if (request.path == ".preview.css")
-        return {200, "text/css; charset=utf-8", stripStyle, {}};
+    const std::pair<const char *, PreviewAnswer> own[] = {
+        {".preview.js", {200, "text/javascript; charset=utf-8", stripScript, {}}},
+        {".preview.css", {200, "text/css; charset=utf-8", stripStyle, {}}},
+        {".preview.svg", {200, "image/svg+xml", stripIcon, {}}},
+    };
+    for (const auto &[path, answer] : own)
+        if (request.path == path)
+            return answer;
     if (request.path == ".end") {
         const std::string page = ownPage("The application has ended", "The host would end the call here.",
                                          {"Start again", pageLocation(parts.pages.start)});

@@ -58,7 +58,7 @@ std::vector<TemplateValue> valuesOn(const Page &p, const Shown &shown)
         if (isBlank(o.ctlname) || isBlank(o.datacol))
             continue;
         std::string value;
-        if (record)
+        if (record && !isPasswordField(p, i))
             value = fieldOf(shown.result->data.rows[static_cast<std::size_t>(shown.first)],
                             columnPlace(shown.result->data.columns, columnName(o.datacol)));
         values.push_back({toUtf8(o.ctlname), std::move(value)});

@@ -25,6 +25,10 @@ dialog.preview-message p{white-space:pre-wrap}
 @media print{#preview-strip,#preview-room,.preview-message{display:none}}
 )css";
 
+const char *const stripIcon = R"svg(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 16 16">
+<rect x="1" y="2" width="14" height="12" fill="#20242c"/><path d="M6 5l5 3-5 3z" fill="#9cc9f5"/></svg>
+)svg";
+
 // A window that is not seen holds no connection: browsers open only a few to one host.
 const char *const stripScript = R"js('use strict';
 (() => {
@@ -87,7 +91,7 @@ const char *lead(JournalEntry::Kind kind)
 {
     switch (kind) {
     case JournalEntry::Kind::Statement: return "";
-    case JournalEntry::Kind::Shown: return "Would run: ";
+    case JournalEntry::Kind::Shown: return "Would run with --write: ";
     case JournalEntry::Kind::Note: return "";
     case JournalEntry::Kind::Message: return "Message: ";
     case JournalEntry::Kind::Failure: return "";
@@ -196,7 +200,8 @@ std::string withStrip(std::string html, const Strip &strip)
 {
     insertBefore(html, "</body>", stripHtml(strip) + "<script src=\".preview.js\"></script>\n");
     const std::size_t head = html.find("</head>"); // the first: a text of the page may hold another
-    html.insert(head == std::string::npos ? 0 : head, "<link rel=\"stylesheet\" href=\".preview.css\">\n");
+    html.insert(head == std::string::npos ? 0 : head,
+                "<link rel=\"stylesheet\" href=\".preview.css\">\n<link rel=\"icon\" href=\".preview.svg\">\n");
     return html;
 }
 

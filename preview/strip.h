@@ -29,6 +29,6 @@ std::string withStrip(std::string html, const Strip &strip);
 // A document of the preview's own: a heading and a sentence, plain text.
 std::string ownPage(const std::string &heading, const std::string &text, const StripLink &link);
 
-extern const char *const stripScript, *const stripStyle;
+extern const char *const stripScript, *const stripStyle, *const stripIcon; // by the names .preview.js, .css, .svg
 
 } // namespace corvanta

@@ -5,20 +5,10 @@
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/../.."
 programs=$PWD/build/release/bin
-tools=$PWD/build/html-check
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
-if ! node -e 'process.exit(Number(process.versions.node.split(".")[0]) >= 20 ? 0 : 1)' 2>/dev/null; then
-  echo "Left out: the checkers need Node 20 or later."
-  exit 0
-fi
-mkdir -p "$tools"
-cp tests/live/html/* "$tools/"
-if ! cmp -s "$tools/package.json" "$tools/installed.json"; then
-  (cd "$tools" && npm install --ignore-scripts --no-package-lock --no-audit --no-fund --silent)
-  cp "$tools/package.json" "$tools/installed.json"
-fi
+source tests/live/support/node_tools.sh
 
 cp -r tests/data/pages "$work/data"
 cp -r samples "$work/samples"

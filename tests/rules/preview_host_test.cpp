@@ -266,7 +266,7 @@ TEST_P(DatabasePreview, ReadingOnlyShowsWhatWouldRun)
     const std::string first = send("CUSTOMER.hts").location;
     for (const std::int16_t button : {3, 4, 5, 9}) {
         EXPECT_EQ(press(first, button, {{"number", "1"}, {"name", "New"}, {"limit", "1"}}), first);
-        EXPECT_TRUE(holds(at(lastSaid), "Would run: <code>")) << button;
+        EXPECT_TRUE(holds(at(lastSaid), "Would run with --write: <code>")) << button;
     }
     EXPECT_TRUE(holds(at(first), "value=\"Adams &amp; Sons\""));
     EXPECT_TRUE(holds(at(send("CUSTOMER.hts").location), "row 1 of 14"));
