@@ -45,6 +45,8 @@ public:
         edits.add(documentEvents().fileChanged, [this] { rest.start(restAfterEdit); });
     }
 
+    ~PreviewProcess() override { end(); }
+
     void show()
     {
         const std::string directory = editing().curdir;

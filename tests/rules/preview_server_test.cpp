@@ -1,7 +1,7 @@
 #include "preview/server.h"
 #include "tests/rules/converter_page.h"
+#include "tests/support/loopback.h"
 
-#include <arpa/inet.h>
 #include <gtest/gtest.h>
 #include <sys/socket.h>
 #include <unistd.h>
@@ -45,42 +45,7 @@ protected:
     std::string own() const { return "127.0.0.1:" + std::to_string(port); }
     std::string base() const { return "/" + token + "/"; }
 
-    int connection() const
-    {
-        const int s = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-        sockaddr_in address{};
-        address.sin_family = AF_INET;
-        address.sin_port = htons(static_cast<std::uint16_t>(port));
-        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-        EXPECT_EQ(connect(s, reinterpret_cast<sockaddr *>(&address), sizeof address), 0);
-        return s;
-    }
-
-    // The whole answer to bytes that are sent as they are; what cannot be sent any more is left.
-    std::string raw(const std::string &bytes) const
-    {
-        const int s = connection();
-        for (std::size_t sent = 0; sent < bytes.size();) {
-            const ssize_t count = send(s, bytes.data() + sent, bytes.size() - sent, MSG_NOSIGNAL);
-            if (count <= 0)
-                break;
-            sent += static_cast<std::size_t>(count);
-        }
-        const std::string answer = readUntil(s, {});
-        close(s);
-        return answer;
-    }
-
-    // Reads to a mark, or to the end.
-    static std::string readUntil(int s, const std::string &mark)
-    {
-        std::string text;
-        char bytes[4096];
-        ssize_t count = 0;
-        while ((mark.empty() || !holds(text, mark)) && (count = recv(s, bytes, sizeof bytes, 0)) > 0)
-            text.append(bytes, static_cast<std::size_t>(count));
-        return text;
-    }
+    std::string raw(const std::string &bytes) const { return loopback::ask(port, bytes); }
 
     std::string ask(const std::string &line, const std::string &headers = {}, const std::string &body = {}) const
     {
@@ -177,17 +142,17 @@ TEST_F(PreviewServerTest, WindowsHearOfAChangeAndOfAnotherPage)
 {
     const std::string waiting = "GET " + base() + ".events?page=p&stamp=p1 HTTP/1.1\r\nHost: " + own() + "\r\n\r\n";
     EXPECT_FALSE(server.sendTo("q.hts")) << "nobody waits";
-    const int s = connection();
+    const int s = loopback::connection(port);
     send(s, waiting.data(), waiting.size(), MSG_NOSIGNAL);
-    EXPECT_TRUE(holds(readUntil(s, ": waiting"), "text/event-stream"));
+    EXPECT_TRUE(holds(loopback::readUntil(s, ": waiting"), "text/event-stream"));
     EXPECT_TRUE(server.sendTo("q.hts"));
-    EXPECT_TRUE(holds(readUntil(s, {}), "data: " + base() + "q.hts\n\n"));
+    EXPECT_TRUE(holds(loopback::readUntil(s, {}), "data: " + base() + "q.hts\n\n"));
     close(s);
-    const int t = connection();
+    const int t = loopback::connection(port);
     send(t, waiting.data(), waiting.size(), MSG_NOSIGNAL);
-    readUntil(t, ": waiting");
+    loopback::readUntil(t, ": waiting");
     stamp = 2;
-    EXPECT_TRUE(holds(readUntil(t, {}), "data: change\n\n"));
+    EXPECT_TRUE(holds(loopback::readUntil(t, {}), "data: change\n\n"));
     close(t);
 }
 
