@@ -3,9 +3,12 @@
 #include "platform/codepage.h"
 
 #include <algorithm>
+#include <condition_variable>
+#include <mutex>
 #include <sql.h>
 #include <sqlext.h>
 #include <sqlucode.h>
+#include <thread>
 
 namespace corvanta {
 
@@ -174,10 +177,43 @@ void fetch(SQLHSTMT handle, const SqlLimits &limits, SqlResult &result)
     }
 }
 
+// Drivers that know no time-out of their own are told to stop.
+class Watchdog {
+public:
+    Watchdog(SQLHSTMT handle, std::chrono::seconds time)
+        : watching([this, handle, time] {
+              std::unique_lock lock(mutex);
+              if (!over.wait_for(lock, time + grace, [this] { return ended; }))
+                  SQLCancel(handle);
+          })
+    {
+    }
+    Watchdog(const Watchdog &) = delete;
+    Watchdog &operator=(const Watchdog &) = delete;
+    ~Watchdog()
+    {
+        {
+            const std::lock_guard lock(mutex);
+            ended = true;
+        }
+        over.notify_one();
+        watching.join();
+    }
+
+private:
+    static constexpr std::chrono::seconds grace{1}; // for the driver's own
+    std::mutex mutex;
+    std::condition_variable over;
+    bool ended = false;
+    std::thread watching;
+};
+
 void execute(SQLHSTMT handle, const SqlStatement &statement, Units units, const SqlLimits &limits, SqlResult &result)
 {
     SQLSetStmtAttr(handle, SQL_ATTR_QUERY_TIMEOUT,
                    reinterpret_cast<SQLPOINTER>(static_cast<SQLULEN>(limits.time.count())), 0);
+    SQLSetStmtAttr(handle, SQL_ATTR_MAX_ROWS, reinterpret_cast<SQLPOINTER>(static_cast<SQLULEN>(limits.rows + 1)), 0);
+    const Watchdog watchdog(handle, limits.time);
     std::vector<Bound> bound(statement.parameters.size());
     for (std::size_t i = 0; i < bound.size(); ++i)
         if (!bind(handle, static_cast<SQLUSMALLINT>(i + 1), statement.parameters[i], units, bound[i]))
@@ -290,6 +326,10 @@ SqlResult changeRows(void *connection, const SqlStatement &statement, std::optio
     return result;
 }
 
-bool connectionLost(const SqlResult &result) { return result.state.starts_with("08"); }
+// A server that shuts down says so in a class of its own.
+bool connectionLost(const SqlResult &result)
+{
+    return result.state.starts_with("08") || result.state.starts_with("57P0");
+}
 
 } // namespace corvanta

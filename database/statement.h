@@ -45,14 +45,14 @@ struct SqlResult {
     bool more = false;        // the limit left rows out
     long changed = -1;        // rows that a statement without a result changed; -1 when the driver does not tell
     std::string state, error; // SQLSTATE and the driver's text; empty on success
-    double milliseconds = 0;  // that the driver took
+    double milliseconds = 0;  // that the driver took; negative when nothing ran
 };
 
 struct SqlLimits {
     std::size_t rows = 5000;
-    std::size_t bytes = 32U << 20; // of all texts together
+    std::size_t bytes = 16U << 20; // of all texts together
     std::size_t textBytes = 65536; // of one; what is beyond is cut
-    std::chrono::seconds time{20}; // as far as the driver keeps to it
+    std::chrono::seconds time{20}; // then the driver is told to stop
 };
 
 // What a connection is used for: one that reads undoes whatever a statement did.

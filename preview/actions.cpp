@@ -14,13 +14,15 @@ namespace corvanta {
 
 namespace {
 
+constexpr long largestNumber = 1'000'000'000; // of objects, results and rows
 constexpr int deepestList = 8, mostActions = 200;
 
 long parsed(const std::string &text, long fallback)
 {
     long number = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    return error == std::errc() && end == text.data() + text.size() && number >= 0 ? number : fallback;
+    const bool whole = error == std::errc() && end == text.data() + text.size();
+    return whole && number >= 0 && number <= largestNumber ? number : fallback;
 }
 
 const ObjectRecord &objectAt(const Page &p, std::int16_t index) { return p.objects[static_cast<std::size_t>(index)]; }

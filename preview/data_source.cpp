@@ -21,6 +21,7 @@ SqlResult failed(std::string error)
 {
     SqlResult result;
     result.error = std::move(error);
+    result.milliseconds = -1; // nothing ran
     return result;
 }
 
@@ -36,7 +37,7 @@ DataSources::Connected &DataSources::entryFor(const PageSource &source)
         return *found;
     if (connections.size() >= mostSources)
         connections.pop_front();
-    connections.push_back({source, source.credentials, {nullptr, nullptr}, {nullptr, nullptr}});
+    connections.push_back({source, source.credentials});
     return connections.back();
 }
 
@@ -46,8 +47,9 @@ OdbcHandle DataSources::connect(Connected &entry, SqlUse use)
     if (!environment)
         environment = openOdbc();
     OdbcHandle handle = connectOdbc(environment.get(), entry.source.source, entry.used.user, entry.used.password);
-    if (!handle && entry.source.credentials.user.empty() && ask) {
+    if (!handle && entry.source.credentials.user.empty() && ask && !entry.declined) {
         const std::optional<Credentials> given = ask(entry.source.source);
+        entry.declined = !given;
         if (given) {
             handle = connectOdbc(environment.get(), entry.source.source, given->user, given->password);
             entry.used = handle ? *given : entry.used;

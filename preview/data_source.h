@@ -45,6 +45,7 @@ private:
     struct Connected {
         PageSource source;
         Credentials used;
+        bool declined = false; // nobody answered the question for credentials
         OdbcHandle reading{nullptr, nullptr}, writing{nullptr, nullptr};
     };
 

@@ -75,10 +75,11 @@ PreviewAnswer PreviewHost::answerPage(const std::string &name, const PreviewRequ
         const std::string said = valueOf(request.query, "said");
         return redirection(isRange(said) ? records + "&said=" + said : records);
     }
+    const bool single = !valueOf(request.query, "row").empty();
     std::string address = pageLocation(name);
-    for (const char *part : {"result", "row", "from"})
-        if (const std::string value = valueOf(request.query, part); !value.empty())
-            address += (address.find('?') == std::string::npos ? "?" : "&") + (part + ("=" + value));
+    if (const ResultPtr result = resultOf(parts, request))
+        address = single ? rowLocation(name, result->number, numberOf(request, "row", 0))
+                         : rowsLocation(name, result->number, numberOf(request, "from", 0));
     parts.trail.visit(address);
     return {200, html, shownPage(parts, loaded, request), {}};
 }

@@ -64,7 +64,8 @@ bool inputIsHeld()
 std::string findPages(const PreviewArguments &arguments, PageFolder &pages)
 {
     std::error_code error;
-    const fs::path target = fs::absolute(arguments.target, error);
+    const fs::path target = fs::exists(arguments.target, error) ? fs::canonical(arguments.target, error)
+                                                                : fs::absolute(arguments.target, error);
     const bool wholeFolder = fs::is_directory(target, error);
     pages.folder = fs::canonical(wholeFolder ? target : target.parent_path(), error);
     if (!error && !arguments.overlay.empty())
