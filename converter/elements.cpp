@@ -29,6 +29,14 @@ std::string mnemonicCaption(const Template &t, const std::string &caption)
     return captionHtml(t, withoutMnemonics(caption, markup));
 }
 
+// The first object with a mnemonic has its key.
+std::string accessKey(Template &t, const std::string &caption)
+{
+    const std::string key = mnemonicOf(caption, (t.page.pgflags & replaceHtmlFlag) == 0);
+    const bool free = !key.empty() && t.accessKeys.insert(key).second;
+    return free ? " accesskey=\"" + key + "\"" : std::string();
+}
+
 std::string buttonFace(const Element &e)
 {
     const std::string face = cssColour(e.BackColor);
@@ -74,9 +82,9 @@ void writeButton(Template &t, std::int16_t index)
     else
         content += element("span", "", mnemonicCaption(t, e.Caption));
     place(t, index, buttonFace(e));
-    const std::string title = optionalAttribute("title", isBlank(help) ? o.sptext : help);
-    t.objects +=
-        control(t, index, target, "button", attribute("id", idOf(index)) + " class=\"button\"" + title, content) + "\n";
+    const std::string attributes = attribute("id", idOf(index)) + " class=\"button\"" + accessKey(t, e.Caption) +
+                                   optionalAttribute("title", isBlank(help) ? o.sptext : help);
+    t.objects += control(t, index, target, "button", attributes, content) + "\n";
 }
 
 void writeHotSpot(Template &t, std::int16_t index)
@@ -99,6 +107,8 @@ void writeLabel(Template &t, std::int16_t index)
     std::string content = mnemonicCaption(t, e.Caption);
     if (target.kind != Target::Kind::None)
         content = isBlank(e.Caption) ? hiddenText(spokenName(t, index, target)) : element("span", "", content);
+    if (field != noObject || target.kind != Target::Kind::None)
+        attributes += accessKey(t, e.Caption);
     if (field != noObject)
         attributes += attribute("for", idOf(field, kindOf(recordOf(t, field).kind) == Kind::File ? "f" : ""));
     t.objects += control(t, index, target, field == noObject ? "div" : "label", attributes, content) + "\n";

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,11 +25,12 @@ struct Template {
     const Page &page;
     const std::filesystem::path &folder; // host path of the page directory; empty when it is not to be looked into
     FieldLabels labels;
-    std::vector<std::string> names; // form names by object
-    std::string style;              // rules by id
-    std::string objects;            // the elements inside the page's box
-    std::string dialogs;            // the dialogs of message boxes
-    bool submits = false;           // a submit button was written
+    std::vector<std::string> names;   // form names by object
+    std::string style;                // rules by id
+    std::string objects;              // the elements inside the page's box
+    std::string dialogs;              // the dialogs of message boxes
+    std::set<std::string> accessKeys; // that have been given away
+    bool submits = false;             // a submit button was written
 };
 
 // Writes an object of any kind.

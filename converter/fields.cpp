@@ -31,29 +31,45 @@ std::string fieldAttributes(const Template &t, std::int16_t index, std::string_v
            optionalAttribute("title", recordOf(t, index).sptext);
 }
 
+constexpr int mostLines = 200;
+
+// Numbers, dates and times are text fields: so they can hold a placeholder, and the record's value in the database's
+// form.
 struct InputType {
     const char *type;
     const char *more; // further attributes
-    bool isText;      // holds any text, so that it can have a length and a placeholder
+    bool anyText = false;
 };
+
+constexpr InputType integer{"text", R"( inputmode="numeric" pattern=" *[+\-]?[0-9]+ *" placeholder="0")"},
+    natural{"text", R"( inputmode="numeric" pattern=" *[0-9]+ *" placeholder="0")"},
+    real{"text",
+         R"( inputmode="decimal" pattern=" *[+\-]?[0-9.,]*[0-9][0-9.,]*([eE][+\-]?[0-9]+)? *" placeholder="0.00")"},
+    money{"text", R"( inputmode="decimal" pattern="[^A-Za-z]*[0-9][^A-Za-z]*" placeholder="0.00")"},
+    date{
+        "text",
+        R"( inputmode="text" pattern=" *[0-9]{1,4}[.\-\/][0-9]{1,2}[.\-\/][0-9]{1,4}([ T].*)?" placeholder="YYYY-MM-DD")"},
+    timeOfDay{
+        "text",
+        R"( inputmode="text" pattern="(.*[ T])?[0-9]{1,2}:[0-9]{2}(:[0-9]{2}([.,][0-9]+)?)? *([AaPp][Mm])?" placeholder="HH:MM")"};
 
 InputType inputType(const TextBoxExtras &x)
 {
     if (x.sysobj == password)
-        return {"password", " autocomplete=\"current-password\"", true};
+        return {"password", " autocomplete=\"current-password\""};
     if (x.sysobj == userId)
         return {"text", " autocomplete=\"username\"", true};
     if (x.sysobj == age)
-        return {"number", " min=\"0\"", false};
+        return natural;
     if (x.sysobj == credits)
-        return {"number", " step=\"any\"", false};
+        return real;
     switch (x.inptype) {
-    case 1: return {"number", " step=\"1\"", false};
+    case 1: return integer;
     case 2:
-    case 5:
-    case 6: return {"number", " step=\"any\"", false};
-    case 3: return {"date", "", false};
-    case 4: return {"time", "", false};
+    case 6: return real;
+    case 3: return date;
+    case 4: return timeOfDay;
+    case 5: return money;
     default: return {"text", "", true};
     }
 }
@@ -87,10 +103,10 @@ std::string textBoxValue(const Template &t, std::int16_t index)
     return value.empty() && !isBlank(o.srcfile) ? fileText(t, index) : value;
 }
 
-std::string lengthAndLock(const ObjectRecord &o, const TextBoxExtras &x, bool isText)
+std::string lengthAndLock(const ObjectRecord &o, const TextBoxExtras &x)
 {
     std::string attributes;
-    if (isText && x.maxlen > 0)
+    if (x.maxlen > 0)
         attributes += attribute("maxlength", x.maxlen);
     if (o.has(readonlyFlag))
         attributes += " readonly";
@@ -105,7 +121,34 @@ std::string hiddenField(const Template &t, std::int16_t index, const std::string
 
 int visibleLines(const ObjectRecord &o, const Element &e)
 {
-    return std::max(2, static_cast<int>((o.pheight - sunkenEdges) / (fontPixels(e.font) * lineHeight)));
+    const double lines = (o.pheight - sunkenEdges) / (fontPixels(e.font) * lineHeight);
+    return static_cast<int>(std::clamp<double>(lines, 2, mostLines));
+}
+
+// What an entry of a list of links and buttons shows.
+std::string entryItem(Template &t, std::int16_t index, std::size_t number, const ListBoxEntry &entry)
+{
+    const Target target = targetOf(entry.action, t.folder);
+    const bool acts = target.kind != Target::Kind::None;
+    std::string content = isBlank(entry.text) ? "&nbsp;" : escaped(entry.text);
+    if (acts && isBlank(entry.text))
+        content += hiddenText(spokenName(t, index, target));
+    return element("li", "", control(t, index, target, "span", "", content, std::to_string(number)));
+}
+
+void writeActingList(Template &t, std::int16_t index)
+{
+    const ObjectRecord &o = recordOf(t, index);
+    const auto &entries = t.page.lbxextras[elementNumber(t, index)];
+    std::string items;
+    for (std::size_t i = 0; i < entries.size(); ++i)
+        items += entryItem(t, index, i, entries[i]);
+    place(t, index, fieldDeclarations(o, t.page.lbx[elementNumber(t, index)]));
+    t.objects += element("div",
+                         attribute("id", idOf(index)) + " class=\"field list\" role=\"group\"" + labelling(t, index) +
+                             optionalAttribute("title", o.sptext),
+                         element("ul", "", items)) +
+                 "\n";
 }
 
 } // namespace
@@ -121,12 +164,12 @@ void writeTextBox(Template &t, std::int16_t index)
         return;
     }
     place(t, index, fieldDeclarations(o, t.page.tbx[elementNumber(t, index)]));
-    const std::string attributes = fieldAttributes(t, index) + lengthAndLock(o, x, type.isText);
-    if (o.has(multiFlag) && type.isText && x.sysobj != password)
+    const std::string attributes = fieldAttributes(t, index) + lengthAndLock(o, x);
+    if (o.has(multiFlag) && type.anyText)
         t.objects += element("textarea", attributes, escaped(value)) + "\n";
     else
         t.objects += "<input" + attribute("type", type.type) + attributes + type.more +
-                     (type.isText ? optionalAttribute("value", value) : std::string()) + ">\n";
+                     optionalAttribute("value", value) + ">\n";
 }
 
 void writeComboBox(Template &t, std::int16_t index)
@@ -146,6 +189,8 @@ void writeComboBox(Template &t, std::int16_t index)
 
 void writeListBox(Template &t, std::int16_t index)
 {
+    if (actsByEntry(t.page, index))
+        return writeActingList(t, index);
     const ObjectRecord &o = recordOf(t, index);
     const Element &e = t.page.lbx[elementNumber(t, index)];
     const auto &entries = t.page.lbxextras[elementNumber(t, index)];

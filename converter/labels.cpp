@@ -1,6 +1,7 @@
 #include "converter/labels.h"
 
 #include "actions/action.h"
+#include "converter/css.h"
 #include "converter/text.h"
 #include "platform/text.h"
 
@@ -14,6 +15,7 @@ namespace {
 
 constexpr int overlap = 8; // pixels that a label may reach into its field
 constexpr int farAway = std::numeric_limits<int>::max();
+constexpr double labelReach = 1.8, headingSize = 1.3; // of a font's pixels
 
 struct Box {
     int left, top, right, bottom;
@@ -51,9 +53,41 @@ int distance(const Page &p, std::int16_t label, std::int16_t index)
     return side <= above ? side * 2 : above * 2 + 1;
 }
 
-bool isLabel(const Page &p, std::int16_t index)
+std::vector<std::int16_t> labelsOf(const Page &p)
 {
-    return kindOf(recordOf(p, index).kind) == Kind::Label && !isBlank(elementOf(p, index)->Caption);
+    std::vector<std::int16_t> labels;
+    for (std::int16_t i = 0; i < objectCount(p); ++i)
+        if (kindOf(recordOf(p, i).kind) == Kind::Label && !isBlank(elementOf(p, i)->Caption))
+            labels.push_back(i);
+    return labels;
+}
+
+double letterSize(const Page &p, std::int16_t index)
+{
+    const Element *element = elementOf(p, index);
+    return fontPixels(element ? element->font : FontBlock{});
+}
+
+// The distance of a label that may name an object.
+int labelDistance(const Page &p, std::int16_t label, std::int16_t index)
+{
+    const double letters = letterSize(p, label);
+    const int d = letters > letterSize(p, index) * headingSize ? farAway : distance(p, label, index);
+    return d <= 2 * letters * labelReach ? d : farAway;
+}
+
+std::int16_t nearestOf(const std::vector<std::int16_t> &labels, const Page &p, std::int16_t index)
+{
+    std::int16_t nearest = noObject;
+    int least = farAway;
+    for (const std::int16_t label : labels) {
+        const int d = label == index ? farAway : labelDistance(p, label, index);
+        if (d < least) {
+            least = d;
+            nearest = label;
+        }
+    }
+    return nearest;
 }
 
 bool isField(Kind kind)
@@ -70,7 +104,7 @@ bool hasTabIndex(const ObjectRecord &record)
 std::string uniqueName(const ObjectRecord &record, std::int16_t index, std::set<std::string> &taken)
 {
     const std::string number = std::to_string(index);
-    std::string name = trimmed(cleanText(record.ctlname));
+    std::string name = oneLine(record.ctlname, std::string::npos);
     if (name.empty())
         name = "object-" + number;
     while (!taken.insert(name).second)
@@ -99,38 +133,37 @@ std::vector<std::int16_t> documentOrder(const Page &p)
     return order;
 }
 
-bool isShownField(const ObjectRecord &record)
+bool actsByEntry(const Page &p, std::int16_t index)
 {
+    if (kindOf(recordOf(p, index).kind) != Kind::ListBox)
+        return false;
+    const auto &entries = p.lbxextras[static_cast<std::size_t>(p.ctlindex[static_cast<std::size_t>(index)])];
+    return std::any_of(entries.begin(), entries.end(),
+                       [](const ListBoxEntry &entry) { return ActionCode(entry.action) != action::none; });
+}
+
+bool isShownField(const Page &p, std::int16_t index)
+{
+    const ObjectRecord &record = recordOf(p, index);
     const auto kind = kindOf(record.kind);
-    if (!kind || !isField(*kind))
+    if (!kind || !isField(*kind) || actsByEntry(p, index))
         return false;
     const bool canHide = *kind == Kind::TextBox || *kind == Kind::File;
     return !(canHide && record.has(invisibleFlag));
 }
 
-std::int16_t nearestLabel(const Page &p, std::int16_t index)
-{
-    std::int16_t nearest = noObject;
-    int least = farAway;
-    for (std::int16_t i = 0; i < objectCount(p); ++i) {
-        const int d = isLabel(p, i) ? distance(p, i, index) : farAway;
-        if (d < least) {
-            least = d;
-            nearest = i;
-        }
-    }
-    return nearest;
-}
+std::int16_t nearestLabel(const Page &p, std::int16_t index) { return nearestOf(labelsOf(p), p, index); }
 
 FieldLabels fieldLabels(const Page &p)
 {
     FieldLabels labels{std::vector<std::int16_t>(p.objects.size(), noObject),
                        std::vector<std::int16_t>(p.objects.size(), noObject)};
+    const std::vector<std::int16_t> all = labelsOf(p);
     for (std::int16_t i = 0; i < objectCount(p); ++i) {
-        const std::int16_t label = nearestLabel(p, i);
+        const std::int16_t label = nearestOf(all, p, i);
         labels.labelOf[static_cast<std::size_t>(i)] = label;
         const bool plain = label != noObject && ActionCode(recordOf(p, label).actlist) == action::none;
-        if (!plain || !isShownField(recordOf(p, i)))
+        if (!plain || !isShownField(p, i))
             continue;
         std::int16_t &field = labels.fieldOf[static_cast<std::size_t>(label)];
         if (field == noObject || distance(p, label, i) < distance(p, label, field))

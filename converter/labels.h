@@ -14,10 +14,14 @@ namespace corvanta {
 std::vector<std::int16_t> documentOrder(const Page &p);
 
 // Fields that a visitor fills in and that are shown: they have a label and a form name.
-bool isShownField(const ObjectRecord &record);
+bool isShownField(const Page &p, std::int16_t index);
 
-// The nearest Label with a text to an object's left or above it, on right-to-left pages also to its
-// right; noObject when there is none.
+// Whether an entry of a List Box has an action: then the box is a list of links and buttons, no field.
+bool actsByEntry(const Page &p, std::int16_t index);
+
+// The nearest Label with a text to an object's left or above it, on right-to-left pages also to its right, at most
+// about one and a half of its lines away; noObject when there is none. Headings, in larger letters than the object's,
+// are none.
 std::int16_t nearestLabel(const Page &p, std::int16_t index);
 
 struct FieldLabels {

@@ -16,7 +16,8 @@ constexpr std::size_t titleLength = 70; // characters that tabs and search engin
 
 // Rules by class come before those by id, which differ from object to object.
 constexpr const char *commonRules =
-    R"css(body{margin:0}
+    R"css(:root{color-scheme:light;background:#fff}
+body{margin:0;direction:ltr}
 .page>*,.page button{box-sizing:border-box;margin:0;padding:0;border:0;border-radius:0;overflow:hidden;background:none;color:inherit;font:inherit;text-align:inherit}
 .page>*{position:absolute}
 .page>.field,.page>.file,.page>.grid{border:2px inset #c0c0c0}
@@ -32,9 +33,15 @@ constexpr const char *commonRules =
 .grid th,.grid td{box-sizing:border-box;height:1.5em;padding:0 3px;border:1px solid #c0c0c0;text-align:start;font-weight:inherit}
 .grid thead{background:#c0c0c0;color:#000}
 .grid thead *{border-color:#808080}
+.page>.list{overflow:auto;padding:0}
+.list ul{margin:0;padding:0;list-style:none}
+.list li>*{display:block;box-sizing:border-box;width:100%;padding:0 2px;color:inherit;text-decoration:inherit;white-space:pre;cursor:pointer}
+.list li>span{cursor:default}
+.list li>:focus-visible{outline-offset:-2px}
 .whole{display:block;width:100%;height:100%}
 .ticker span{position:absolute;top:0;left:100%;white-space:pre;animation:ticker 10s linear infinite}
-.ticker:hover span,.ticker:focus span,.animation:hover img{animation-play-state:paused}
+.ticker:hover span,.ticker:focus span,.animation:hover img,.animation:focus img{animation-play-state:paused}
+.animation[tabindex]:focus-visible{outline:2px solid #000}
 .animation img{position:absolute}
 dialog p{white-space:pre-wrap}
 .hidden{position:absolute;width:1px;height:1px;overflow:hidden;clip-path:inset(50%);white-space:nowrap}
@@ -42,12 +49,16 @@ dialog p{white-space:pre-wrap}
 @keyframes ticker{from{left:100%}to{left:0;transform:translateX(-100%)}}
 )css";
 
-// The last rule, stronger than those by id.
-constexpr const char *reducedMotion =
-    R"css(@media (prefers-reduced-motion:reduce){
+// The last rules, stronger than those by id.
+constexpr const char *stillRules =
+    R"css(@media (prefers-reduced-motion:reduce),print{
 .page .ticker span{position:static;animation:none;white-space:pre-wrap}
 .page .ticker{overflow:auto}
 .page .animation img{animation:none!important}
+}
+@media print{
+.page,.page *{print-color-adjust:exact;-webkit-print-color-adjust:exact}
+audio,.send{display:none}
 }
 )css";
 
@@ -100,9 +111,9 @@ std::string title(const Page &p)
 std::string pageRule(const Template &t)
 {
     const Page &p = t.page;
-    std::string rule = ".page{position:absolute;left:0;top:0;width:" + std::to_string(std::max<int>(p.bkgwd, 0)) +
-                       "px;height:" + std::to_string(std::max<int>(p.bkght, 0)) +
-                       "px;background:" + cssColour(p.bkgcol);
+    std::string rule = (p.pgflags & rtlFlag) != 0 ? ".page,dialog{direction:rtl}\n" : "";
+    rule += ".page{position:absolute;left:0;top:0;width:" + std::to_string(std::max<int>(p.bkgwd, 0)) +
+            "px;height:" + std::to_string(std::max<int>(p.bkght, 0)) + "px;background:" + cssColour(p.bkgcol);
     if (const std::string image = mediaAddress(p.bkgfile, t.folder); !image.empty())
         rule += " url(\"" + image + "\") no-repeat";
     return rule + "}\n";
@@ -134,21 +145,31 @@ bool sendsFiles(const Page &p)
 
 std::string form(const Template &t)
 {
-    std::string content = "\n<div class=\"page\">\n" + t.objects + "</div>\n";
+    // Enter in a field would press the first button: this one, which does nothing.
+    std::string content = "\n<button type=\"submit\" name=\"object\" value=\"\" disabled hidden>No action</button>\n"
+                          "<div class=\"page\">\n" +
+                          t.objects + "</div>\n";
     if (!t.submits)
-        content += "<button type=\"submit\" class=\"send below\">Submit</button>\n";
+        content += "<button type=\"submit\" name=\"object\" value=\"\" class=\"send below\">Submit</button>\n";
     return element("form",
                    std::string(" method=\"post\"") + (sendsFiles(t.page) ? " enctype=\"multipart/form-data\"" : ""),
                    content) +
            "\n";
 }
 
+// On a small screen the page is shown as a whole.
+std::string viewportWidth(const Page &p)
+{
+    constexpr int narrowest = 320; // pixels
+    return p.bkgwd > 0 ? std::to_string(std::max<int>(p.bkgwd, narrowest)) : "device-width, initial-scale=1";
+}
+
 std::string head(const Template &t)
 {
     return "<meta charset=\"utf-8\">\n" + element("title", "", title(t.page)) +
-           "\n<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n" +
+           "\n<meta name=\"viewport\" content=\"width=" + viewportWidth(t.page) + "\">\n" +
            element("style", "",
-                   "\n" + std::string(commonRules) + pageRule(t) + belowPage(t.page) + t.style + reducedMotion) +
+                   "\n" + std::string(commonRules) + pageRule(t) + belowPage(t.page) + t.style + stillRules) +
            "\n";
 }
 

@@ -10,10 +10,10 @@ namespace corvanta {
 
 namespace {
 
-// Title and text of a message, opened by its button and closed by its own, without a script.
-std::string dialog(const Template &t, std::int16_t index, const Target &target)
+// Title and text of a message, opened by its button and closed by its own, without a script: modal where the browser
+// knows commands, else as a popover.
+std::string dialog(const Template &t, const std::string &id, const std::string &title, const Target &target)
 {
-    const std::string id = idOf(index, "m"), title = idOf(index, "t");
     std::string heading = oneLine(target.title, 200);
     if (heading.empty())
         heading = oneLine(t.page.pgcaption, 200);
@@ -22,7 +22,8 @@ std::string dialog(const Template &t, std::int16_t index, const Target &target)
     std::string content = element("h2", attribute("id", title), escapedUtf8(heading));
     if (!isBlank(target.text))
         content += element("p", "", escaped(target.text));
-    const std::string close = " type=\"button\"" + attribute("popovertarget", id) + " popovertargetaction=\"hide\"";
+    const std::string close = " type=\"button\" command=\"close\"" + attribute("commandfor", id) +
+                              attribute("popovertarget", id) + " popovertargetaction=\"hide\"";
     content += element("button", close, "OK");
     return element("dialog", attribute("id", id) + " popover" + attribute("aria-labelledby", title), content) + "\n";
 }
@@ -90,19 +91,27 @@ std::string labelling(const Template &t, std::int16_t index)
 }
 
 std::string control(Template &t, std::int16_t index, const Target &target, std::string_view inert,
-                    std::string_view attributes, std::string_view content)
+                    std::string_view attributes, std::string_view content, std::string_view entry)
 {
-    const std::string common(attributes);
+    const std::string common(attributes), part = entry.empty() ? std::string() : "e" + std::string(entry);
     switch (target.kind) {
     case Target::Kind::None: return element(inert, common + (inert == "button" ? " type=\"button\"" : ""), content);
     case Target::Kind::Link: return element("a", common + attribute("href", target.address), content);
     case Target::Kind::Reset: return element("button", common + " type=\"reset\"", content);
     case Target::Kind::Submit:
         t.submits = true;
-        return element("button", common + " type=\"submit\" name=\"object\"" + attribute("value", index), content);
+        return element("button",
+                       common + " type=\"submit\" name=\"object\"" +
+                           attribute("value", std::to_string(index) + (entry.empty() ? "" : ":") + std::string(entry)) +
+                           (target.sendsValues ? "" : " formnovalidate"),
+                       content);
     case Target::Kind::Message:
-        t.dialogs += dialog(t, index, target);
-        return element("button", common + " type=\"button\"" + attribute("popovertarget", idOf(index, "m")), content);
+        t.dialogs += dialog(t, idOf(index, part + "m"), idOf(index, part + "t"), target);
+        return element("button",
+                       common + " type=\"button\" command=\"show-modal\"" +
+                           attribute("commandfor", idOf(index, part + "m")) +
+                           attribute("popovertarget", idOf(index, part + "m")),
+                       content);
     }
     return {};
 }

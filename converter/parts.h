@@ -36,8 +36,8 @@ std::string spokenName(const Template &t, std::int16_t index, const Target &targ
 std::string labelling(const Template &t, std::int16_t index);
 
 // The element that carries out a target: link or button; without one the inert tag. Takes the
-// attributes besides href, type and the like.
+// attributes besides href, type and the like. An entry is the number of a List Box entry whose target it is.
 std::string control(Template &t, std::int16_t index, const Target &target, std::string_view inert,
-                    std::string_view attributes, std::string_view content);
+                    std::string_view attributes, std::string_view content, std::string_view entry = {});
 
 } // namespace corvanta

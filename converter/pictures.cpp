@@ -126,10 +126,13 @@ void writeAnimation(Template &t, std::int16_t index)
     const Target target = targetOf(o.actlist, t.folder);
     place(t, index, "overflow:visible;");
     std::string content = stackedFrames(t, index, framesOfAnimation(t, index));
-    if (target.kind != Target::Kind::None || !isBlank(o.sptext))
-        content += hiddenText(spokenName(t, index, target));
-    const std::string attributes =
+    const bool acts = target.kind != Target::Kind::None, moves = content.find("<img", 1) != std::string::npos;
+    std::string attributes =
         attribute("id", idOf(index)) + " class=\"animation\"" + optionalAttribute("title", o.sptext);
+    if (moves && !acts) // whoever uses the keyboard can stop it there
+        attributes += " role=\"img\" tabindex=\"0\"" + attribute("aria-label", spokenName(t, index, target));
+    if (acts || (!moves && !isBlank(o.sptext)))
+        content += hiddenText(spokenName(t, index, target));
     t.objects += control(t, index, target, "div", attributes, content) + "\n";
 }
 

@@ -19,7 +19,8 @@ struct Target {
     Kind kind = Kind::None;
     std::string address; // ASCII
     std::string title, text;
-    std::string caption; // what to call the action where the object has no text of its own
+    bool sendsValues = true; // of a Submit: what the visitor entered matters, and is checked
+    std::string caption;     // what to call the action where the object has no text of its own
 };
 
 // The links to pages are those of the page's folder, a host path; it may be empty.

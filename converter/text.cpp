@@ -114,10 +114,27 @@ std::string withoutMnemonics(std::string_view caption, bool markup)
     return text;
 }
 
+std::string mnemonicOf(std::string_view caption, bool markup)
+{
+    for (; caption.size() > 1; caption.remove_prefix(1)) {
+        if (caption.front() != '&' || (markup && isReference(caption)))
+            continue;
+        const std::string key = lowerCase(caption.substr(1, 1));
+        if (key != upperCase(key) || (key >= "0" && key <= "9"))
+            return toUtf8(key);
+        caption.remove_prefix(1); // "&&"
+    }
+    return {};
+}
+
 bool isBlank(std::string_view bytes)
 {
-    const std::string text = cleanText(bytes);
-    return text.find_first_not_of(" \n\t") == std::string::npos;
+    constexpr char32_t noBreakSpace = 0xA0, firstInvisible = 0x200B, lastInvisible = 0x200F;
+    return std::all_of(bytes.begin(), bytes.end(), [](char byte) {
+        const char32_t c = characterOf(static_cast<unsigned char>(byte));
+        return c == ' ' || c == '\n' || c == '\t' || c == noBreakSpace || (c >= firstInvisible && c <= lastInvisible) ||
+               !allowed(byte);
+    });
 }
 
 } // namespace corvanta

@@ -29,6 +29,9 @@ std::string optionalAttribute(std::string_view name, std::string_view bytes);
 // A caption without its mnemonic marks: "&&" stands for "&". With markup, character references stay.
 std::string withoutMnemonics(std::string_view caption, bool markup);
 
+// The character after the first mnemonic mark, in lower case; empty when it is no letter or digit.
+std::string mnemonicOf(std::string_view caption, bool markup);
+
 // True when nothing of the text can be seen.
 bool isBlank(std::string_view bytes);
 

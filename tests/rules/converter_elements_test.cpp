@@ -12,6 +12,11 @@ std::string buttonWith(const std::string &actionText)
     return elementLine(p, 0);
 }
 
+bool leaves(std::int16_t code)
+{
+    return code == action::nextRecord || code == action::downloadFile || code == action::closePage;
+}
+
 TEST(ConverterActions, EachKindBecomesItsControl)
 {
     const std::string plain = "<button id=\"o0\" class=\"button\" type=\"", text = "\"><span>Go</span></button>";
@@ -24,7 +29,10 @@ TEST(ConverterActions, EachKindBecomesItsControl)
     for (const std::int16_t code :
          {action::nextRecord, action::updateRecord, action::submitSelect, action::executeSql, action::downloadFile,
           action::uploadFile, action::list, action::closePage, action::executeApp, std::int16_t{999}})
-        EXPECT_EQ(buttonWith(encodeAction({code, {}})), plain + "submit\" name=\"object\" value=\"0" + text) << code;
+        EXPECT_EQ(buttonWith(encodeAction({code, {}})),
+                  plain + "submit\" name=\"object\" value=\"0" +
+                      (leaves(code) ? "\" formnovalidate><span>Go</span></button>" : text))
+            << code;
 }
 
 TEST(ConverterActions, AMessageBoxIsADialogThatNeedsNoScript)
@@ -33,10 +41,12 @@ TEST(ConverterActions, AMessageBoxIsADialogThatNeedsNoScript)
     addTo(p, Kind::Label);
     recordAt(p, addCaptioned(p, Kind::Button, "Go")).actlist = encodeAction({action::messageBox, {"<T>", "a\r\nb"}});
     const std::string html = htmlTemplate(p);
-    EXPECT_TRUE(holds(elementLine(html, 1), " type=\"button\" popovertarget=\"o1m\""));
-    EXPECT_TRUE(holds(html, "<dialog id=\"o1m\" popover aria-labelledby=\"o1t\"><h2 id=\"o1t\">&lt;T&gt;</h2>"
-                            "<p>a&#10;b</p><button type=\"button\" popovertarget=\"o1m\" "
-                            "popovertargetaction=\"hide\">OK</button></dialog>"));
+    EXPECT_TRUE(holds(elementLine(html, 1),
+                      " type=\"button\" command=\"show-modal\" commandfor=\"o1m\" popovertarget=\"o1m\""));
+    EXPECT_TRUE(
+        holds(html, "<dialog id=\"o1m\" popover aria-labelledby=\"o1t\"><h2 id=\"o1t\">&lt;T&gt;</h2>"
+                    "<p>a&#10;b</p><button type=\"button\" command=\"close\" commandfor=\"o1m\" popovertarget=\"o1m\" "
+                    "popovertargetaction=\"hide\">OK</button></dialog>"));
 }
 
 struct FieldCase {
@@ -50,10 +60,11 @@ TEST(ConverterFields, TextBoxesFollowTypeSystemObjectFlagsAndPage)
     const FieldCase cases[] = {
         {0, -1, 40, 0, PageKind::Query, "<input type=\"text\"| maxlength=\"40\"| name=\"n\"", " value="},
         {0, -1, 0, readonlyFlag, PageKind::Record, " value=\"@n@\"| readonly", "maxlength"},
-        {6, -1, 9, 0, PageKind::Record, " type=\"number\"| step=\"any\"", "maxlength"},
-        {1, -1, 0, 0, PageKind::QueryView, " type=\"number\"| step=\"1\"", "@n@"},
-        {3, -1, 0, 0, PageKind::Query, " type=\"date\"", "step"},
-        {4, -1, 0, 0, PageKind::Query, " type=\"time\"", "step"},
+        {6, -1, 9, 0, PageKind::Record, " inputmode=\"decimal\"| maxlength=\"9\"| value=\"@n@\"", "number"},
+        {1, -1, 0, 0, PageKind::QueryView, " inputmode=\"numeric\"| value=\"@n@\"| pattern=", "number"},
+        {3, -1, 0, multiFlag, PageKind::Record, "<input type=\"text\"| placeholder=\"YYYY-MM-DD\"| value=\"@n@\"",
+         "date"},
+        {4, -1, 0, 0, PageKind::Query, " placeholder=\"HH:MM\"", "value="},
         {0, 1, 8, multiFlag, PageKind::Record, " type=\"password\"| maxlength=\"8\"", "@n@"},
         {0, 0, 0, 0, PageKind::Query, " autocomplete=\"username\"", "password"},
         {0, -1, 255, multiFlag, PageKind::Record, "<textarea | maxlength=\"255\"|>@n@</textarea>", "type="},
@@ -74,6 +85,37 @@ TEST(ConverterFields, TextBoxesFollowTypeSystemObjectFlagsAndPage)
             EXPECT_TRUE(holds(line, parts.substr(0, end))) << line << "\n" << parts.substr(0, end);
         EXPECT_FALSE(holds(line, c.absent)) << line << "\n" << c.absent;
     }
+}
+
+TEST(ConverterActions, EntriesOfAListBoxAct)
+{
+    Page p;
+    addTo(p, Kind::ListBox);
+    p.lbxextras.back() = {{"Menu", encodeAction({action::goToPage, {"MENU"}})},
+                          {"Say", encodeAction({action::messageBox, {"T", "x"}})},
+                          {"Find", encodeAction({action::submitSelect, {}})},
+                          {"Rest", ""},
+                          {"\xa0", encodeAction({action::resetForm, {}})}};
+    const std::string html = htmlTemplate(p), line = elementLine(html, 0);
+    for (const char *part : {"<li><a href=\"MENU.hts\">Menu</a></li>", " popovertarget=\"o0e1m\">Say</button></li>",
+                             "<li><button type=\"submit\" name=\"object\" value=\"0:2\">Find</button></li>",
+                             "<li><span>Rest</span></li>", "type=\"reset\">&nbsp;<span class=\"hidden\">Reset Form"})
+        EXPECT_TRUE(holds(line, part)) << part;
+    EXPECT_TRUE(holds(html, "<dialog id=\"o0e1m\" popover aria-labelledby=\"o0e1t\">"));
+    p.lbxextras.back() = {{"Plain", ""}};
+    p.lbx.back().font.FontSize = 0.001f;
+    EXPECT_TRUE(holds(elementLine(p, 0),
+                      "<select id=\"o0\" class=\"field\" name=\"object-0\" aria-label=\"List Box 1\" size=\"200\">"));
+}
+
+TEST(ConverterActions, MnemonicsAreAccessKeysOfTheFirstThatHasThem)
+{
+    Page p;
+    for (const char *caption : {"&Save", "&Stop", "A && B", "Plain"})
+        addCaptioned(p, Kind::Button, caption);
+    EXPECT_TRUE(holds(elementLine(p, 0), " accesskey=\"s\""));
+    for (const std::int16_t other : {1, 2, 3})
+        EXPECT_FALSE(holds(elementLine(p, other), "accesskey"));
 }
 
 TEST(ConverterGrid, ColumnsAreHeaderCellsOfTheirWidth)
@@ -100,7 +142,8 @@ TEST(ConverterMoving, AnAnimationStepsThroughItsFramesAndStaysOnTheLast)
     EXPECT_TRUE(holds(html, "@keyframes o0f0{0%{visibility:visible}25%{visibility:hidden}}"));
     EXPECT_TRUE(holds(html, "@keyframes o0f2{0%{visibility:hidden}50%{visibility:visible}}"));
     EXPECT_TRUE(holds(html, "#o0f2{left:-10px;top:10px;animation:o0f2 2s step-end 3;}"));
-    EXPECT_EQ(elementLine(html, 0), "<div id=\"o0\" class=\"animation\"><img id=\"o0f0\" src=\"a.bmp\" alt=\"\">"
+    EXPECT_EQ(elementLine(html, 0), "<div id=\"o0\" class=\"animation\" role=\"img\" tabindex=\"0\" "
+                                    "aria-label=\"Animation 1\"><img id=\"o0f0\" src=\"a.bmp\" alt=\"\">"
                                     "<img id=\"o0f2\" src=\"c.bmp\" alt=\"\"></div>");
     p.aniextras.back().nplay = 0;
     p.aniextras.back().frozen = 1;
@@ -123,8 +166,11 @@ TEST(ConverterTemplate, DocumentFollowsThePagesFields)
     const std::string html = htmlTemplate(p);
     for (const char *part :
          {"<html lang=\"en\" dir=\"rtl\">", "<title>A &lt;page&gt;</title>", "<h1 class=\"hidden\">A &lt;page&gt;</h1>",
-          "<form method=\"post\" enctype=\"multipart/form-data\">",
-          ".page{position:absolute;left:0;top:0;width:300px;height:200px;background:#ff0000 url(\"a%20b.bmp\") "
+          "<form method=\"post\" enctype=\"multipart/form-data\">\n<button type=\"submit\" name=\"object\" value=\"\" "
+          "disabled hidden>",
+          "<meta name=\"viewport\" content=\"width=320\">", "body{margin:0;direction:ltr}", "color-scheme:light",
+          ".page,dialog{direction:rtl}\n.page{position:absolute;left:0;top:0;width:300px;height:200px;background:#"
+          "ff0000 url(\"a%20b.bmp\") "
           "no-repeat}",
           "<audio class=\"below\" controls preload=\"none\" src=\"ding.wav\" aria-label=\"ding.wav\"></audio>",
           "#o0{left:5px;top:-6px;width:7px;height:0;z-index:1;"})

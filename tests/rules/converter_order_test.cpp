@@ -26,7 +26,10 @@ TEST(ConverterLabels, TheNearestLabelToTheLeftOrAboveIsTaken)
     addCaptioned(p, Kind::Label, "right", 310, 100);
     addCaptioned(p, Kind::Label, "below", 200, 125);
     addCaptioned(p, Kind::Label, "other row", 95, 60);
-    addCaptioned(p, Kind::Label, " ", 100, 100);
+    addCaptioned(p, Kind::Label, " \xa0", 100, 100);
+    addCaptioned(p, Kind::Label, "too far at the left", 75, 100);
+    const auto heading = addCaptioned(p, Kind::Label, "Heading", 200, 78);
+    elementOf(p, heading)->font.FontSize = 14;
     EXPECT_EQ(nearestLabel(p, field), noObject);
     const auto above = addCaptioned(p, Kind::Label, "above", 190, 70);
     EXPECT_EQ(nearestLabel(p, field), above);
@@ -44,11 +47,11 @@ TEST(ConverterLabels, EachFieldHasALabelAReferenceOrAText)
 {
     Page p;
     const auto label = addCaptioned(p, Kind::Label, "&City:", 0, 0);
-    const auto far = addTo(p, Kind::ComboBox, 300, 0), near = addTo(p, Kind::TextBox, 110, 0);
+    const auto far = addTo(p, Kind::ComboBox, 115, 0), near = addTo(p, Kind::TextBox, 110, 0);
     const auto told = addTo(p, Kind::File, 150, 300), named = addTo(p, Kind::TextBox, 300, 300);
     recordAt(p, told).sptext = "Status";
     recordAt(p, named).ctlname = "amount";
-    EXPECT_EQ(elementLine(p, label), "<label id=\"o0\" class=\"text\" for=\"o2\">City:</label>");
+    EXPECT_EQ(elementLine(p, label), "<label id=\"o0\" class=\"text\" accesskey=\"c\" for=\"o2\">City:</label>");
     EXPECT_FALSE(holds(elementLine(p, near), "aria-label"));
     EXPECT_TRUE(holds(elementLine(p, far), " aria-labelledby=\"o0\""));
     EXPECT_TRUE(holds(elementLine(p, told), " aria-label=\"Status\""));

@@ -48,7 +48,7 @@ async function axeProblems(page) {
 async function dialogProblems(page) {
     const problems = [];
     for (const id of await page.$$eval('dialog', (dialogs) => dialogs.map((d) => d.id))) {
-        const shown = () => page.$eval(`#${id}`, (d) => d.matches(':popover-open'));
+        const shown = () => page.$eval(`#${id}`, (d) => d.matches(':modal'));
         const opener = await page.$(`main [popovertarget="${id}"]:not([popovertargetaction])`);
         await opener?.evaluate((button) => button.click());
         if (!(await shown())) {
@@ -63,16 +63,53 @@ async function dialogProblems(page) {
     return problems;
 }
 
+// The page as it stands in windows from a telephone's width on: every box in its place, nothing out of reach.
+async function widthProblems(page, records) {
+    const problems = [];
+    for (const width of [320, 800, 1280]) {
+        await page.setViewportSize({ width, height: 768 });
+        problems.push(...(await boxProblems(page, records)).map((p) => `${width} wide: ${p}`));
+        const beyond = await page.evaluate(() => {
+            window.scrollTo(1e6, 0);
+            const end = document.querySelector('.page').getBoundingClientRect();
+            window.scrollTo(0, 0);
+            return Math.round(end.right - document.documentElement.clientWidth);
+        });
+        if (beyond > 0)
+            problems.push(`${width} wide: ${beyond} px of the page cannot be reached`);
+    }
+    return problems;
+}
+
+// Enter in a field sends nothing; a form that is sent from a List Box names object and entry.
+async function enterProblems(page) {
+    await page.evaluate(() => document.querySelector('form').addEventListener('submit', (event) => {
+        event.preventDefault();
+        window.sent = new FormData(event.target, event.submitter).get('object');
+    }));
+    const field = await page.$('input[type=text]:not([readonly])');
+    await field?.focus();
+    await page.keyboard.press('Enter');
+    const problems = (await page.evaluate(() => 'sent' in window)) ? ['Enter sends the form'] : [];
+    for (const button of await page.$$('.list button[type=submit]')) {
+        const value = await button.getAttribute('value');
+        await button.evaluate((b) => { b.form.noValidate = true; b.click(); });
+        if ((await page.evaluate(() => window.sent)) !== value)
+            problems.push(`entry ${value} does not send itself`);
+    }
+    return problems;
+}
+
 async function browserProblems(browser, file) {
     const page = await browser.newPage();
     await openTemplate(page, file);
     await page.addScriptTag({ path: createRequire(import.meta.url).resolve('axe-core') });
     const problems = await axeProblems(page);
     const records = recordsOf(file);
-    problems.push(...(records ? await boxProblems(page, records) : ['no records to compare boxes with']));
+    problems.push(...(records ? await widthProblems(page, records) : ['no records to compare boxes with']));
     if (options.pictures)
         await page.screenshot({ path: join(options.pictures, basename(file) + '.png') });
-    problems.push(...(await dialogProblems(page)));
+    problems.push(...(await dialogProblems(page)), ...(await enterProblems(page)));
     await page.close();
     return problems;
 }

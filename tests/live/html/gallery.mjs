@@ -66,6 +66,7 @@ function fieldObjects() {
     add('comboBox', {}, {});
     add('listBox', { entries: [{ text: '', action: { code: 0 } }, { text: awkward, action: message }] }, {});
     add('listBox', {}, {});
+    add('listBox', { entries: actions.map((action, i) => ({ text: i === 3 ? '' : `Entry ${i}`, action })) }, { sptext: 'Acts' });
     for (const objflags of [0, 2, 4, 8])
         add('file', {}, { objflags, ctlname: `file${objflags}`, srcfile: 'C:\\SERVER', actlist: { code: 511, fileobj: 'x' } });
     for (const Caption of ['', 'www.example.com', 'file:///etc/passwd', 'help page.htm?a=1&b=2', awkward])
