@@ -25,6 +25,7 @@ struct DocumentEvents {
     Event<const Page &> pageRestored;
     Event<> orderChanged;           // objects have other places in the table
     Event<std::string_view> notice; // a short text for the status panel
+    Event<> clean;                  // the page has no changes that its file lacks
     Event<> fileChanged;            // filetag has changed
     Event<std::string_view> edited; // an act of the user's is complete: its name
 };

@@ -44,6 +44,7 @@ void markSaved()
         editing().lentSize.reset();
     editing().pagedirty = false;
     markHistorySaved();
+    documentEvents().clean();
 }
 
 bool writePage(const std::string &path)
@@ -211,6 +212,7 @@ void newPage()
     documentEvents().objectCount();
     editing().pagedirty = false;
     resetHistory();
+    documentEvents().clean();
 }
 
 void openPage(const std::string &path)

@@ -7,6 +7,7 @@
 #include "document/kinds.h"
 #include "document/objects.h"
 #include "document/page_file.h"
+#include "document/recovery.h"
 #include "platform/codepage.h"
 #include "platform/help.h"
 #include "platform/multimedia.h"
@@ -131,8 +132,15 @@ void startSession(std::string_view argument)
     openPage(file.directory + file.name);
 }
 
+void interruptSession()
+{
+    stopRecovery(RecoveryFile::Keep);
+    storeSettings();
+}
+
 void endSession()
 {
+    stopRecovery(RecoveryFile::Remove);
     mciSendString("Close all");
     clearObjects();
     storeSettings();

@@ -33,6 +33,10 @@ CommandLineFile commandLineFile(std::string_view argument);
 // loads and shows the canvas window.
 void startSession(std::string_view argument);
 
+// The system ends the program: the settings are stored, and the recovery file of a page with changes is kept. Nobody is
+// asked. endSession follows.
+void interruptSession();
+
 // Ends it; querySave has agreed.
 void endSession();
 

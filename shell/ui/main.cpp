@@ -1,6 +1,9 @@
+#include "document/recovery.h"
 #include "platform/codepage.h"
+#include "shell/session.h"
 #include "shell/ui/hpsedit.h"
 #include "shell/ui/rooms.h"
+#include "shell/ui/signals.h"
 #include "shell/ui/startup.h"
 
 #include <CLI/CLI.hpp>
@@ -54,6 +57,14 @@ int main(int argc, char **argv)
     EditorWindows windows;
     windows.ended = &QApplication::quit;
     const Rooms rooms(windows);
+    watchSignals([] {
+        interruptSession();
+        QApplication::quit(); // out of every dialog; the windows' session ends below
+    });
+    QObject::connect(&application, &QGuiApplication::commitDataRequest, &application, flushRecovery,
+                     Qt::DirectConnection);
     windows.start(line.pageFile);
-    return QApplication::exec();
+    const int code = QApplication::exec();
+    windows.end();
+    return code;
 }

@@ -8,6 +8,7 @@
 #include "document/file_state.h"
 #include "document/history.h"
 #include "document/page_file.h"
+#include "document/recovery.h"
 #include "platform/asking.h"
 #include "platform/codepage.h"
 #include "platform/help.h"
@@ -21,6 +22,7 @@
 #include "platform/qt/qt_pictures.h"
 #include "platform/qt/window_switch.h"
 #include "shell/commands.h"
+#include "shell/recovery_offer.h"
 #include "shell/session.h"
 #include "shell/ui/canvas_menu.h"
 #include "shell/ui/help_key.h"
@@ -41,6 +43,12 @@
 
 namespace corvanta {
 
+namespace {
+
+constexpr int recoveryDelay = 500; // milliseconds
+
+} // namespace
+
 EditorWindows::EditorWindows() : hpsedit(std::make_unique<Hpsedit>())
 {
     startHistory();
@@ -60,7 +68,20 @@ EditorWindows::~EditorWindows()
     stopHistory();
 }
 
-void EditorWindows::start(const std::string &pageFile) { startSession(pageFile); }
+void EditorWindows::start(const std::string &pageFile)
+{
+    sessionRuns = true;
+    startRecovery(recoveryFolder(),
+                  [](Job job) { QTimer::singleShot(recoveryDelay, qApp, [job = std::move(job)] { job(); }); });
+    startSession(pageFile);
+    QTimer::singleShot(0, hpsedit.get(), offerLostPages);
+}
+
+void EditorWindows::end()
+{
+    if (std::exchange(sessionRuns, false))
+        endSession();
+}
 
 void EditorWindows::connectCommands()
 {
@@ -130,7 +151,7 @@ void EditorWindows::connectWindows()
 {
     hpsedit->mayClose = querySave;
     hpsedit->closed = [this] {
-        endSession();
+        end();
         if (ended)
             ended();
     };

@@ -21,6 +21,8 @@ public:
 
     // Shows the windows with a new page or the page file of the command line (host or drive path, UTF-8).
     void start(const std::string &pageFile);
+    // Ends a session that the main window's closing has not ended.
+    void end();
 
     std::function<void()> ended; // the main window was closed and the session is over
 
@@ -35,6 +37,7 @@ private:
     void connectSession();
     void connectWindows();
 
+    bool sessionRuns = false;
     EventConnections connections;
     std::unique_ptr<Hpsedit> hpsedit;
     std::unique_ptr<Editform> editform;

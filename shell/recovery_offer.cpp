@@ -1,0 +1,40 @@
+#include "shell/recovery_offer.h"
+
+#include "document/recovery.h"
+#include "platform/asking.h"
+
+#include <ctime>
+
+namespace corvanta {
+
+namespace {
+
+std::string timeOf(const LostPage &lost)
+{
+    const std::time_t seconds = lost.time;
+    std::tm local{};
+    char text[32] = "";
+    if (localtime_r(&seconds, &local))
+        std::strftime(text, sizeof text, "%Y-%m-%d %H:%M:%S", &local);
+    return text;
+}
+
+} // namespace
+
+void offerLostPages()
+{
+    for (const LostPage &lost : lostPages(recoveryFolder())) {
+        const std::string name = lost.filetag.empty() ? "a new page" : lost.filetag;
+        switch (askChoice(
+            {.text = "The editor ended with changes to " + name + " that were not saved, last at " + timeOf(lost) + ".",
+             .title = "Corvanta Form Editor",
+             .icon = Icon::Question,
+             .captions = {"&Recover", "&Discard", "&Later"}})) {
+        case 0: return recoverPage(lost);
+        case 1: discardLostPage(lost); break;
+        default: break;
+        }
+    }
+}
+
+} // namespace corvanta

@@ -1,0 +1,99 @@
+#!/usr/bin/env bash
+# What an author does is never lost: undo, crashes, signals, other programs, other directories. With a number: so many kills.
+source "$(dirname "$(readlink -f "$0")")/support/lib.sh"
+kills=${1:-6}
+export XDG_STATE_HOME=$work/state
+title='Harbour Supply - Main Menu'
+page=$work/pages/menu.ods
+mkdir -p "$work/pages" "$work/other"
+fresh_page() { cp samples/menu.ods samples/*.bmp samples/*.wav "$work/pages/"; }
+focus_canvas() { xdotool windowactivate --sync "$(canvas_id)"; sleep 0.2; }
+click_at() { # page point
+  read -r left top <<<"$(origin_of "$(canvas_id)")"
+  xdotool mousemove $((left + $1)) $((top + $2)) click 1
+  sleep 0.2
+}
+save() { activate 'Corvanta Form Editor'; keys alt+f s; }
+objects() { json_value "$1" 'len(p["objects"])'; }
+recovery_file() { find "$work/state" -name '*.page' 2>/dev/null | grep -q .; }
+no_recovery_file() { ! recovery_file; }
+
+echo "Delete, Ctrl+Z, save: the same bytes"
+fresh_page
+start_editor "$title" "$page"
+click_at 60 150
+keys Delete
+keys ctrl+z
+save
+cmp samples/menu.ods "$page" || fail "Undo did not bring the page back"
+
+echo "A killed editor's changes are offered and come back"
+focus_canvas
+click_at 60 150
+keys Delete
+wait_until recovery_file
+kill -9 "$editor_pid"; wait "$editor_pid" 2>/dev/null || true
+cmp samples/menu.ods "$page" || fail "The kill changed the file"
+start_editor "$title" "$page"
+wait_until has_window 'Corvanta Form Editor'
+sleep 0.5
+keys alt+r
+sleep 0.5
+save
+[ "$(objects "$page")" = $(($(objects samples/menu.ods) - 1)) ] || fail "The recovered page is another one"
+wait_until no_recovery_file
+
+echo "SIGTERM stores the settings and keeps the changes for the next start"
+focus_canvas
+click_at 60 190
+keys Delete
+rm -f "$work/config/corvanta/CORVANTA.INI"
+kill -TERM "$editor_pid"
+wait "$editor_pid" || fail "SIGTERM did not end the editor in order"
+editor_pid=
+grep -q MainTop "$work/config/corvanta/CORVANTA.INI" || fail "The settings were not stored"
+recovery_file || fail "The changes were not kept"
+start_editor "$title" "$page"
+sleep 0.5
+keys alt+d
+wait_until no_recovery_file
+
+echo "Another program's change is not overwritten without a question"
+focus_canvas
+click_at 60 190
+keys Delete
+cp samples/query.ods "$page"
+save
+wait_until has_window 'Saving File'
+keys Escape
+cmp samples/query.ods "$page" || fail "The other program's file was overwritten"
+kill -9 "$editor_pid"; wait "$editor_pid" 2>/dev/null || true
+rm -rf "$work/state"
+
+echo "$kills kills at random moments lose nothing older than a second"
+for ((i = 0; i < kills; ++i)); do
+  fresh_page
+  start_editor "$title" "$page"
+  click_at 60 150
+  keys ctrl+d
+  edited=$(date +%s%N)
+  sleep "0.$((RANDOM % 90 + 10))"
+  xdotool key --clearmodifiers ctrl+d
+  sleep "0.$((RANDOM % 90 + 10))"
+  kill -9 "$editor_pid"; wait "$editor_pid" 2>/dev/null || true
+  age=$((($(date +%s%N) - edited) / 1000000))
+  cmp samples/menu.ods "$page" || fail "A kill changed the file"
+  [ $age -lt 1000 ] || recovery_file || fail "An edit $age ms before the kill is lost"
+  if recovery_file; then
+    start_editor "$title" "$page"
+    sleep 0.4
+    keys alt+r
+    sleep 0.4
+    keys ctrl+s
+    now=$(objects "$page") before=$(objects samples/menu.ods)
+    [ "$now" = $((before + 1)) ] || [ "$now" = $((before + 2)) ] || fail "A recovered page has $now objects"
+    end_editor
+  fi
+  rm -rf "$work/state"
+done
+echo "Nothing was lost."
