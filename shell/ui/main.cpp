@@ -59,7 +59,7 @@ int main(int argc, char **argv)
     const Rooms rooms(windows);
     watchSignals([] {
         interruptSession();
-        QApplication::quit(); // out of every dialog; the windows' session ends below
+        QApplication::exit(0); // out of every dialog, without asking the windows; their session ends below
     });
     QObject::connect(&application, &QGuiApplication::commitDataRequest, &application, flushRecovery,
                      Qt::DirectConnection);
