@@ -81,6 +81,10 @@ void Editform::resizeToPage()
     const Size pageSize = sizeOf(page());
     if (pageSize.width <= 0 || pageSize.height <= 0)
         return;
+    if (innerSize() == QSize(pageSize.width, pageSize.height)) { // also one that the author has made too large
+        fitted = pageSize;
+        return;
+    }
     const QSize space = screenRoom();
     const Size view = viewOf(pageSize, {space.width(), space.height()}, barWidth());
     const Size bars = barsFor(pageSize, view, barWidth());
@@ -110,7 +114,8 @@ void Editform::keepInRoom()
     const QPoint excess(std::max(0, frame.right() - all.right()), std::max(0, frame.bottom() - all.bottom()));
     const QPoint corner(std::max(frame.left() - excess.x(), std::min(frame.left(), all.left())),
                         std::max(frame.top() - excess.y(), std::min(frame.top(), all.top())));
-    if (isVisible() && corner != frame.topLeft())
+    const bool framed = isVisible() && windowHandle()->isExposed();
+    if (framed && corner != frame.topLeft())
         move(corner);
 }
 

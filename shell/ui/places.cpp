@@ -160,7 +160,8 @@ void placeWindows(QWidget &main, QWidget &canvas, const WindowSettings &places)
     canvas.setProperty("tag", QStringLiteral("IN INPOPTS"));
     const WindowSettings kept = keptOnScreen(places, screenSizes(main, canvas));
     main.move(pixelsX(kept.MainLeft), pixelsY(kept.MainTop));
-    canvas.resize(pixelsX(kept.PageWidth), pixelsY(kept.PageHeight));
+    if (!canvas.isVisible())
+        canvas.resize(pixelsX(kept.PageWidth), pixelsY(kept.PageHeight));
     canvas.move(pixelsX(kept.PageLeft), pixelsY(kept.PageTop));
     canvas.setProperty("tag", before);
 }

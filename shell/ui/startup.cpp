@@ -138,11 +138,15 @@ void EditorWindows::connectSession()
         placeAtFirst(*hpsedit, *editform);
     };
     steps.windowPlaces = [this] { return windowPlaces(*hpsedit, *editform); };
-    steps.placeWindows = [this](const WindowSettings &places) { placeWindows(*hpsedit, *editform, places); };
+    steps.placeWindows = [this](const WindowSettings &stored) {
+        placeWindows(*hpsedit, *editform, stored);
+        places = stored;
+    };
     steps.showCanvas = [this] {
         hpsedit->show();
         editform->show();
         waitForFrame(*editform);
+        placeWindows(*hpsedit, *editform, places); // now that their frames are known
     };
     steps.unloadCanvas = [this] { editform.reset(); };
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/settings.h"
 #include "platform/event.h"
 
 #include <functional>
@@ -39,6 +40,7 @@ private:
 
     bool sessionRuns = false;
     EventConnections connections;
+    WindowSettings places; // of the start
     std::unique_ptr<Hpsedit> hpsedit;
     std::unique_ptr<Editform> editform;
 };
