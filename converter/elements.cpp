@@ -19,14 +19,14 @@ std::string captionDeclarations(const Element &e)
     if (e.BackStyle != 0)
         css += "background:" + cssColour(e.BackColor) + ";";
     if (e.BorderStyle == 1)
-        css += "border:1px solid #000;";
+        css += "border:1px solid #000;padding:0 2px;";
     return css;
 }
 
 std::string mnemonicCaption(const Template &t, const std::string &caption)
 {
     const bool markup = (t.page.pgflags & replaceHtmlFlag) == 0;
-    return captionHtml(t, withoutMnemonics(caption, markup));
+    return captionWithMnemonics(caption, markup);
 }
 
 // The first object with a mnemonic has its key.
@@ -39,9 +39,11 @@ std::string accessKey(Template &t, const std::string &caption)
 
 std::string buttonFace(const Element &e)
 {
-    const std::string face = cssColour(e.BackColor);
-    const int bevel = std::clamp<int>(e.BevelWidth, 0, widestBevel);
-    return cssFont(e.font) + "background:" + face + ";border:" + std::to_string(bevel) + "px outset " + face + ";";
+    const EdgeColours edge = edgeColours(e.BackColor);
+    const std::string bevel = std::to_string(std::clamp<int>(e.BevelWidth, 0, widestBevel)) + "px ";
+    return cssFont(e.font) + "background:" + cssColour(e.BackColor) + ";border:1px solid " + cssColour(edge.outline) +
+           ";padding:" + bevel + ";box-shadow:inset -" + bevel + "-" + bevel + cssColour(edge.shadow) + ",inset " +
+           bevel + bevel + cssColour(edge.light) + ";";
 }
 
 } // namespace

@@ -15,18 +15,23 @@ namespace {
 constexpr std::size_t textFileLimit = 32650; // bytes
 
 constexpr int sunkenEdges = 4;                                         // pixels above and below a list together
-constexpr double lineHeight = 1.2;                                     // of a font's pixels
 constexpr std::int16_t userId = 0, password = 1, age = 2, credits = 4; // system objects
 
 std::string fieldDeclarations(const ObjectRecord &o, const Element &e)
 {
-    return cssFont(e.font) + "background:" + cssColour(e.BackColor) + ";" + cssAlignment(o.alignment);
+    return cssFont(e.font) + "background-color:" + cssColour(e.BackColor) + ";" + cssAlignment(o.alignment);
+}
+
+std::string listDeclarations(const ObjectRecord &o, const Element &e)
+{
+    return fieldDeclarations(o, e) + "line-height:" + std::to_string(lineHeight(e.font) + 1) + "px;";
 }
 
 // id, form name and label of a field.
-std::string fieldAttributes(const Template &t, std::int16_t index, std::string_view part = {})
+std::string fieldAttributes(const Template &t, std::int16_t index, std::string_view part = {},
+                            std::string_view kind = "field")
 {
-    return attribute("id", idOf(index, part)) + " class=\"field\" name=\"" +
+    return attribute("id", idOf(index, part)) + attribute("class", kind) + " name=\"" +
            escapedUtf8(t.names[static_cast<std::size_t>(index)]) + "\"" + labelling(t, index) +
            optionalAttribute("title", recordOf(t, index).sptext);
 }
@@ -121,7 +126,7 @@ std::string hiddenField(const Template &t, std::int16_t index, const std::string
 
 int visibleLines(const ObjectRecord &o, const Element &e)
 {
-    const double lines = (o.pheight - sunkenEdges) / (fontPixels(e.font) * lineHeight);
+    const double lines = (o.pheight - sunkenEdges) / (lineHeight(e.font) + 1.0);
     return static_cast<int>(std::clamp<double>(lines, 2, mostLines));
 }
 
@@ -143,7 +148,7 @@ void writeActingList(Template &t, std::int16_t index)
     std::string items;
     for (std::size_t i = 0; i < entries.size(); ++i)
         items += entryItem(t, index, i, entries[i]);
-    place(t, index, fieldDeclarations(o, t.page.lbx[elementNumber(t, index)]));
+    place(t, index, listDeclarations(o, t.page.lbx[elementNumber(t, index)]));
     t.objects += element("div",
                          attribute("id", idOf(index)) + " class=\"field list\" role=\"group\"" + labelling(t, index) +
                              optionalAttribute("title", o.sptext),
@@ -181,7 +186,8 @@ void writeComboBox(Template &t, std::int16_t index)
         if (!isBlank(entry))
             options += element("option", attribute("value", entry), "");
     place(t, index, fieldDeclarations(o, t.page.cbx[elementNumber(t, index)]));
-    t.objects += "<input type=\"text\"" + fieldAttributes(t, index) + optionalAttribute("value", placeholder(t, o));
+    t.objects += "<input type=\"text\"" + fieldAttributes(t, index, {}, "field combo") +
+                 optionalAttribute("value", placeholder(t, o));
     t.objects += options.empty()
                      ? ">\n"
                      : attribute("list", list) + ">" + element("datalist", attribute("id", list), options) + "\n";
@@ -198,7 +204,7 @@ void writeListBox(Template &t, std::int16_t index)
     for (std::size_t i = 0; i < entries.size(); ++i)
         options += element("option", attribute("value", static_cast<long>(i)),
                            isBlank(entries[i].text) ? "&nbsp;" : escaped(entries[i].text));
-    place(t, index, fieldDeclarations(o, e));
+    place(t, index, listDeclarations(o, e));
     t.objects += element("select", fieldAttributes(t, index) + attribute("size", visibleLines(o, e)), options) + "\n";
 }
 

@@ -9,14 +9,15 @@ namespace corvanta {
 
 namespace {
 
-constexpr double tick = 0.008;           // seconds between two steps of a ticker
-constexpr double averageCharacter = 0.5; // of a font's pixels
+constexpr double tick = 0.008; // seconds between two steps of a ticker, of so many pixels as its speed says
 
-// The seconds in which the text crosses its strip, by the estimated width of the text.
-double crossingTime(const ObjectRecord &o, const Element &e, std::int16_t speed)
+// The text moves over a known distance, from behind the right edge until it has left at the other, so that its speed
+// does not depend on how wide it is.
+std::string journey(const ObjectRecord &o, const Element &e, std::int16_t speed)
 {
-    const double text = static_cast<double>(e.Caption.size()) * fontPixels(e.font) * averageCharacter;
-    return (std::max<int>(o.pwidth, 0) + text) * tick / std::clamp<int>(speed, 1, 10);
+    const int distance = std::max(1, std::max<int>(o.pwidth, 0) + textWidth(e.font, cleanText(e.Caption)));
+    return "--way:-" + std::to_string(distance) +
+           "px;animation-duration:" + cssNumber(std::max(0.1, distance * tick / std::clamp<int>(speed, 1, 10))) + "s";
 }
 
 } // namespace
@@ -30,8 +31,7 @@ void writeTicker(Template &t, std::int16_t index)
           cssFont(e.font) + "background:" + cssColour(e.BackColor) + ";" +
               (e.BorderStyle == 1 ? "border:1px solid #000;" : "") +
               "line-height:" + std::to_string(std::max(0, o.pheight - (e.BorderStyle == 1 ? 2 : 0))) + "px;");
-    t.style += "#" + idOf(index) + " span{animation-duration:" +
-               cssNumber(std::max(0.1, crossingTime(o, e, t.page.tkrextras[elementNumber(t, index)]))) + "s}\n";
+    t.style += "#" + idOf(index) + " span{" + journey(o, e, t.page.tkrextras[elementNumber(t, index)]) + "}\n";
     const bool acts = target.kind != Target::Kind::None;
     std::string content = element("span", "", captionHtml(t, e.Caption));
     if (acts && isBlank(e.Caption))

@@ -20,20 +20,24 @@ constexpr const char *commonRules =
 body{margin:0;direction:ltr}
 .page>*,.page button{box-sizing:border-box;margin:0;padding:0;border:0;border-radius:0;overflow:hidden;background:none;color:inherit;font:inherit;text-align:inherit}
 .page>*{position:absolute}
-.page>.field,.page>.file,.page>.grid{border:2px inset #c0c0c0}
-.page>.field{padding:0 2px;resize:none}
+.page>.field,.page>.file,.page>.grid{padding:1px;border:1px solid;border-color:#808080 #fff #fff #808080;box-shadow:inset -1px -1px #dfdfdf,inset 1px 1px #404040}
+.page>.field{padding:1px 3px;resize:none}
+.page>select.field{padding:1px}
+.field option{min-height:0;padding:0 2px;line-height:inherit}
+.page>.combo{padding-right:20px;background-repeat:no-repeat;background-position:right 6px top calc(50% + 1px),right 3px top 3px,right 3px top 2px,right 1px top 1px;background-size:7px 4px,13px calc(100% - 6px),14px calc(100% - 5px),17px calc(100% - 2px);background-image:url("data:image/svg+xml,%3Csvg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 7 4'%3E%3Cpath d='M0 0h7v1h-1v1h-1v1h-1v1h-1v-1h-1v-1h-1v-1h-1z'/%3E%3C/svg%3E"),linear-gradient(#c0c0c0,#c0c0c0),linear-gradient(#f6f6f6,#f6f6f6),linear-gradient(#777,#777)}
+.combo::-webkit-calendar-picker-indicator{margin:0 -17px 0 0;opacity:0}
 .page>.text{white-space:pre-wrap}
 .page>button.text{display:flex;flex-direction:column;align-items:stretch;justify-content:flex-start}
-.page>.button{display:flex;flex-flow:column wrap;gap:4px;align-items:center;align-content:center;justify-content:center;text-align:center;white-space:pre-wrap;cursor:pointer}
+.page>.button{border-radius:2px;display:flex;flex-flow:column wrap;gap:4px;align-items:center;align-content:center;justify-content:center;text-align:center;white-space:pre-wrap;cursor:pointer}
 .page>.file{display:flex}
 .file input{flex:1;min-width:0;font:inherit}
 .file button{padding:0 4px;border:1px outset #c0c0c0;background:#c0c0c0;color:#000;cursor:pointer}
 .page>.grid{overflow:auto}
-.grid table{border-collapse:collapse;table-layout:fixed}
-.grid th,.grid td{box-sizing:border-box;height:1.5em;padding:0 3px;border:1px solid #c0c0c0;text-align:start;font-weight:inherit}
+.grid table{border-spacing:0;table-layout:fixed}
+.grid th,.grid td{box-sizing:border-box;padding:2px 3px 0;overflow:hidden;vertical-align:top;white-space:nowrap;border:0 solid #c0c0c0;border-width:0 1px 1px 0;text-align:start;font-weight:inherit}
 .grid thead{background:#c0c0c0;color:#000}
-.grid thead *{border-color:#808080}
-.page>.list{overflow:auto;padding:0}
+.grid thead tr>*{border-width:0;padding:2px 4px 0;box-shadow:inset -1px -1px #777,inset 1px 1px #f6f6f6}
+.page>.list{overflow:auto;padding:1px}
 .list ul{margin:0;padding:0;list-style:none}
 .list li>*{display:block;box-sizing:border-box;width:100%;padding:0 2px;color:inherit;text-decoration:inherit;white-space:pre;cursor:pointer}
 .list li>span{cursor:default}
@@ -46,7 +50,7 @@ body{margin:0;direction:ltr}
 dialog p{white-space:pre-wrap}
 .hidden{position:absolute;width:1px;height:1px;overflow:hidden;clip-path:inset(50%);white-space:nowrap}
 .send:not(:focus){clip-path:inset(50%)}
-@keyframes ticker{from{left:100%}to{left:0;transform:translateX(-100%)}}
+@keyframes ticker{to{transform:translateX(var(--way))}}
 )css";
 
 // The last rules, stronger than those by id.

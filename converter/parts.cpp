@@ -48,6 +48,26 @@ std::string element(std::string_view tag, std::string_view attributes, std::stri
     return "<" + name + std::string(attributes) + ">" + std::string(content) + "</" + name + ">";
 }
 
+namespace {
+
+// Pictures lie below the controls, as on the canvas.
+int layer(const Template &t, std::int16_t index)
+{
+    const auto kind = kindOf(recordOf(t, index).kind);
+    const bool below = kind == Kind::Image || kind == Kind::ImageDb;
+    return index + 1 + (below ? 0 : objectCount(t.page));
+}
+
+// An object may be smaller than the edges of its kind.
+std::string withoutEdges(const ObjectRecord &o)
+{
+    constexpr int thinnestPadding = 8, thinnestBorder = 2; // pixels
+    const int size = std::min(o.pwidth, o.pheight);
+    return std::string(size < thinnestPadding ? "padding:0;" : "") + (size < thinnestBorder ? "border-width:0;" : "");
+}
+
+} // namespace
+
 void place(Template &t, std::int16_t index, std::string_view declarations)
 {
     const ObjectRecord &o = recordOf(t, index);
@@ -56,7 +76,7 @@ void place(Template &t, std::int16_t index, std::string_view declarations)
     };
     t.style += "#" + idOf(index) + "{" + pixels("left:", o.pleft) + pixels("top:", o.ptop) +
                pixels("width:", std::max<int>(o.pwidth, 0)) + pixels("height:", std::max<int>(o.pheight, 0)) +
-               "z-index:" + std::to_string(index + 1) + ";" + std::string(declarations);
+               "z-index:" + std::to_string(layer(t, index)) + ";" + std::string(declarations) + withoutEdges(o);
     if (o.has(hoverFlag))
         t.style += "cursor:pointer;";
     t.style += "}\n";

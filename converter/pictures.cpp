@@ -113,7 +113,7 @@ void writeImageDb(Template &t, std::int16_t index)
 {
     const ObjectRecord &o = recordOf(t, index);
     const std::string id = attribute("id", idOf(index)), alt = isBlank(o.sptext) ? o.ctlname : o.sptext;
-    place(t, index, isBlank(o.ctlname) ? std::string(emptyArea) : "pointer-events:none;");
+    place(t, index, std::string(emptyArea) + (isBlank(o.ctlname) ? "" : "pointer-events:none;"));
     if (isBlank(o.ctlname))
         t.objects += element("div", id, isBlank(alt) ? std::string() : hiddenText(alt)) + "\n";
     else

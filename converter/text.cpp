@@ -101,17 +101,24 @@ std::string optionalAttribute(std::string_view name, std::string_view bytes)
     return isBlank(bytes) ? std::string() : attribute(name, bytes);
 }
 
-std::string withoutMnemonics(std::string_view caption, bool markup)
+std::string captionWithMnemonics(std::string_view caption, bool markup)
 {
-    std::string text;
-    while (!caption.empty()) {
-        const bool mark = caption.front() == '&' && caption.size() > 1 && !(markup && isReference(caption));
+    const auto content = [markup](std::string_view bytes) { return markup ? cleanText(bytes) : escaped(bytes); };
+    std::string html, plain;
+    bool inTag = false;
+    for (; !caption.empty(); caption.remove_prefix(1)) {
+        inTag = markup && (caption.front() == '<' || (inTag && caption.front() != '>'));
+        const bool mark = caption.front() == '&' && caption.size() > 1 && !inTag && !(markup && isReference(caption));
         if (mark)
             caption.remove_prefix(1);
-        text += caption.front();
-        caption.remove_prefix(1);
+        if (!mark || caption.front() == '&' || isBlank(caption.substr(0, 1))) {
+            plain += caption.front();
+            continue;
+        }
+        html += content(plain) + "<u>" + content(caption.substr(0, 1)) + "</u>";
+        plain.clear();
     }
-    return text;
+    return html + content(plain);
 }
 
 std::string mnemonicOf(std::string_view caption, bool markup)

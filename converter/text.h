@@ -26,8 +26,9 @@ std::string attribute(std::string_view name, long value);
 // The same; nothing when the value is blank.
 std::string optionalAttribute(std::string_view name, std::string_view bytes);
 
-// A caption without its mnemonic marks: "&&" stands for "&". With markup, character references stay.
-std::string withoutMnemonics(std::string_view caption, bool markup);
+// A caption as content, its mnemonics underlined: "&&" stands for "&". With markup the author's own elements and
+// character references stay, else everything is escaped.
+std::string captionWithMnemonics(std::string_view caption, bool markup);
 
 // The character after the first mnemonic mark, in lower case; empty when it is no letter or digit.
 std::string mnemonicOf(std::string_view caption, bool markup);

@@ -14,6 +14,10 @@ cp -r tests/data/pages "$work/data"
 cp -r samples "$work/samples"
 rm -f "$work/data/"*.hdo*
 (cd "$tools" && node gallery.mjs "$work/gallery")
+cp samples/*.bmp "$work/data"
+for picture in logo a b 'a "b" c' 'back ground'; do
+  cp samples/lamp1.bmp "$work/gallery/$picture.bmp"
+done
 for json in "$work/gallery/"*.json; do
   "$programs/odspage" build "$json" "${json%.json}.ods"
 done
@@ -34,4 +38,9 @@ assert open(template, "rb").read() == kept, "the library's template differs from
 assert library.ConvertOdsHts(b"C:\\no\\such\\page.ods") == 0
 PY
 
-(cd "$tools" && node check.mjs "$@" "$work/data" "$work/samples" "$work/gallery")
+# The canvas's pictures, to compare the templates with.
+for page in "$work"/{data,samples,gallery}/*.ods; do
+  "$programs/odsrender" "$page" "${page%.ods}.canvas.png" || true
+done
+mkdir -p "$work/pixels"
+(cd "$tools" && node check.mjs --canvas "${PIXELS:-$work/pixels}" "$@" "$work/data" "$work/samples" "$work/gallery")

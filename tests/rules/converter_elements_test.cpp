@@ -105,7 +105,7 @@ TEST(ConverterActions, EntriesOfAListBoxAct)
     p.lbxextras.back() = {{"Plain", ""}};
     p.lbx.back().font.FontSize = 0.001f;
     EXPECT_TRUE(holds(elementLine(p, 0),
-                      "<select id=\"o0\" class=\"field\" name=\"object-0\" aria-label=\"List Box 1\" size=\"200\">"));
+                      "<select id=\"o0\" class=\"field\" name=\"object-0\" aria-label=\"List Box 1\" size=\"8\">"));
 }
 
 TEST(ConverterActions, MnemonicsAreAccessKeysOfTheFirstThatHasThem)
@@ -173,7 +173,7 @@ TEST(ConverterTemplate, DocumentFollowsThePagesFields)
           "ff0000 url(\"a%20b.bmp\") "
           "no-repeat}",
           "<audio class=\"below\" controls preload=\"none\" src=\"ding.wav\" aria-label=\"ding.wav\"></audio>",
-          "#o0{left:5px;top:-6px;width:7px;height:0;z-index:1;"})
+          "#o0{left:5px;top:-6px;width:7px;height:0;z-index:3;"})
         EXPECT_TRUE(holds(html, part)) << part;
     p.pgcaption = std::string(60, 'a') + std::string(60, '"');
     EXPECT_TRUE(holds(htmlTemplate(p), "<title>" + std::string(60, 'a') + "&quot;…</title>"));

@@ -51,7 +51,7 @@ TEST(ConverterLabels, EachFieldHasALabelAReferenceOrAText)
     const auto told = addTo(p, Kind::File, 150, 300), named = addTo(p, Kind::TextBox, 300, 300);
     recordAt(p, told).sptext = "Status";
     recordAt(p, named).ctlname = "amount";
-    EXPECT_EQ(elementLine(p, label), "<label id=\"o0\" class=\"text\" accesskey=\"c\" for=\"o2\">City:</label>");
+    EXPECT_EQ(elementLine(p, label), "<label id=\"o0\" class=\"text\" accesskey=\"c\" for=\"o2\"><u>C</u>ity:</label>");
     EXPECT_FALSE(holds(elementLine(p, near), "aria-label"));
     EXPECT_TRUE(holds(elementLine(p, far), " aria-labelledby=\"o0\""));
     EXPECT_TRUE(holds(elementLine(p, told), " aria-label=\"Status\""));

@@ -1,4 +1,4 @@
-// Checks HTML templates: node check.mjs [--data DIR] [--pictures DIR] FILE_OR_DIRECTORY...
+// Checks HTML templates: node check.mjs [--data DIR] [--pictures DIR] [--canvas DIR] FILE_OR_DIRECTORY...
 // A directory stands for its *.hts files. Each page goes through html-validate, the Nu checker and, in
 // headless Chromium, axe; then the box of every element is compared with the record of its object in
 // NAME.json, which is looked for in --data and beside the template. Exit 1 when anything was found.
@@ -10,12 +10,15 @@ import { parseArgs } from 'node:util';
 import { pathToFileURL } from 'node:url';
 import { checkMarkup } from './markup.mjs';
 import { boxProblems } from './boxes.mjs';
+import { differingPixels } from './pixels.mjs';
 import { chromium } from 'playwright-core';
 
 const { values: options, positionals } = parseArgs({
-    options: { data: { type: 'string' }, pictures: { type: 'string' } },
+    options: { data: { type: 'string' }, pictures: { type: 'string' }, canvas: { type: 'string' } },
     allowPositionals: true,
 });
+
+const figures = JSON.parse(readFileSync(new URL('figures.json', import.meta.url), 'utf8'));
 
 function templates(path) {
     if (!statSync(path).isDirectory())
@@ -100,6 +103,19 @@ async function enterProblems(page) {
     return problems;
 }
 
+// The template must look like the picture of the page's canvas beside it; figures.json has the share of differing pixels
+// that was reached, in percent, where it is above the usual one.
+async function likenessProblems(page, file, records) {
+    const canvas = file.replace(/\.hts$/, '.canvas.png');
+    if (!options.canvas || !existsSync(canvas) || !(records?.bkgwd > 0 && records.bkght > 0))
+        return [];
+    const name = `${basename(dirname(file))}.${basename(file, '.hts')}`;
+    const share = await differingPixels(page, records, canvas, options.canvas, name);
+    const limit = figures[name] ?? figures.usual;
+    console.log(`  ${name}: ${share.toFixed(2)} % of the pixels differ from the canvas`);
+    return share > limit ? [`${share.toFixed(2)} % of the pixels differ from the canvas, more than ${limit} %`] : [];
+}
+
 async function browserProblems(browser, file) {
     const page = await browser.newPage();
     await openTemplate(page, file);
@@ -109,6 +125,7 @@ async function browserProblems(browser, file) {
     problems.push(...(records ? await widthProblems(page, records) : ['no records to compare boxes with']));
     if (options.pictures)
         await page.screenshot({ path: join(options.pictures, basename(file) + '.png') });
+    problems.push(...(await likenessProblems(page, file, records)));
     problems.push(...(await dialogProblems(page)), ...(await enterProblems(page)));
     await page.close();
     return problems;
