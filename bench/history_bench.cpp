@@ -27,8 +27,8 @@ void step(benchmark::State &state)
         pageEdited("Move");
         ++steps;
     }
-    state.counters["bytes_per_step"] =
-        static_cast<double>(historyMemory() - before) / static_cast<double>(std::min<std::int64_t>(steps, historySteps));
+    state.counters["bytes_per_step"] = static_cast<double>(historyMemory() - before) /
+                                       static_cast<double>(std::min<std::int64_t>(steps, historySteps));
     stopHistory();
     newPage();
 }

@@ -93,7 +93,9 @@ TEST(ConverterSecrets, UnfilteredCaptionsKeepMarkupAndAttributesDoNot)
     p.pgflags = 0;
     recordAt(p, addCaptioned(p, Kind::Label, "<em title=\"?a&b\">A&amp;B</em> &Save\x02")).sptext = "<b>\"";
     recordAt(p, addCaptioned(p, Kind::Button, "<b>Go</b>")).sptext = "\"x";
-    EXPECT_EQ(elementLine(p, 0), "<div id=\"o0\" class=\"text\" title=\"&lt;b&gt;&quot;\"><em title=\"?a&b\">A&amp;B</em> <u>S</u>ave</div>");
+    EXPECT_EQ(
+        elementLine(p, 0),
+        "<div id=\"o0\" class=\"text\" title=\"&lt;b&gt;&quot;\"><em title=\"?a&b\">A&amp;B</em> <u>S</u>ave</div>");
     EXPECT_TRUE(holds(elementLine(p, 1), " title=\"&quot;x\" type=\"button\"><span><b>Go</b></span>"));
     p.pgflags = replaceHtmlFlag;
     EXPECT_TRUE(holds(elementLine(p, 0), "&lt;em title"));
