@@ -27,7 +27,9 @@ std::string fullPath(std::string_view path)
         path.remove_prefix(2);
     else if (drive || (!path.empty() && isSeparator(path[0])))
         return std::string(path);
-    const std::string current = drivePath(std::filesystem::current_path());
+    std::error_code gone;
+    const std::filesystem::path here = std::filesystem::current_path(gone);
+    const std::string current = gone ? std::string() : drivePath(here);
     return current.empty() ? std::string(path) : withTrailingBackslash(current).append(path);
 }
 

@@ -1,6 +1,7 @@
 #include "document/settings.h"
 
 #include "document/page.h"
+#include "platform/asking.h"
 #include "platform/paths.h"
 #include "platform/profile.h"
 #include "platform/text.h"
@@ -37,6 +38,10 @@ std::string storedDirectory()
 
 WindowSettings loadSettings(const WindowSettings &current)
 {
+    if (!profileUsable(profileFile))
+        showExclamation("The settings file " + std::string(profileFile) +
+                            " cannot be read. It is left as it is, and no settings are kept.",
+                        "Reading File");
     WindowSettings s = current;
     readNumber("MainTop", s.MainTop);
     readNumber("MainLeft", s.MainLeft);

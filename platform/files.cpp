@@ -171,6 +171,9 @@ int fillTemporary(Descriptor &file, std::string_view bytes, const struct stat *t
     return error != noError ? error : closing;
 }
 
+// In a sticky folder, on a mount point, on another device.
+bool renamingRefused(int error) { return error == EPERM || error == EACCES || error == EBUSY || error == EXDEV; }
+
 int replaceFile(const std::filesystem::path &file, std::string_view bytes)
 {
     const std::filesystem::path target = followLinks(file);
@@ -188,6 +191,11 @@ int replaceFile(const std::filesystem::path &file, std::string_view bytes)
     int error = fillTemporary(temporary.file, bytes, exists ? &status : nullptr);
     if (error == noError)
         error = errorOf(rename(temporary.name.c_str(), target.c_str()));
+    if (exists && renamingRefused(error)) {
+        error = writeInPlace(target, bytes); // the temporary file keeps the new bytes until the target has them
+        unlink(temporary.name.c_str());
+        return error;
+    }
     if (error != noError)
         unlink(temporary.name.c_str());
     else

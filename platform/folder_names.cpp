@@ -4,6 +4,8 @@
 #include "platform/text.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <cstdio>
 #include <ctime>
 #include <map>
 #include <sys/stat.h>
@@ -54,45 +56,77 @@ const FolderNames &namesOf(const std::filesystem::path &folder, const timespec &
     return names;
 }
 
-// The host names of chosen files whose drive names are not their own, by folder and folded drive name.
-std::map<std::pair<std::string, std::string>, std::string> &chosenNames()
+// The host names behind aliases of files that were named before they existed, by folder and alias. An alias comes from
+// one name alone, so that what is remembered never changes what another name means.
+std::map<std::pair<std::string, std::string>, std::string> &namedFiles()
 {
     static std::map<std::pair<std::string, std::string>, std::string> names;
     return names;
+}
+
+constexpr std::size_t markLength = 16; // hexadecimal digits
+
+std::string markOf(std::string_view hostName)
+{
+    std::uint64_t hash = 0xCBF29CE484222325U; // FNV-1a
+    for (const char c : hostName)
+        hash = (hash ^ static_cast<unsigned char>(c)) * 0x100000001B3U;
+    char mark[markLength + 1];
+    std::snprintf(mark, sizeof mark, "%016llx", static_cast<unsigned long long>(hash));
+    return mark;
+}
+
+// Whether a name reads like an alias: "~" and a mark before the ending.
+bool readsAsAlias(std::string_view name)
+{
+    const std::size_t tilde = name.rfind('~');
+    if (tilde == std::string_view::npos || name.size() < tilde + 1 + markLength)
+        return false;
+    const std::string_view mark = name.substr(tilde + 1, markLength);
+    const char after = name.size() > tilde + 1 + markLength ? name[tilde + 1 + markLength] : '.';
+    return after == '.' && mark.find_first_not_of("0123456789abcdefABCDEF") == std::string_view::npos;
+}
+
+std::string aliasOf(std::string_view hostName)
+{
+    std::string shown = fromUtf8Lossy(hostName);
+    std::replace_if(
+        shown.begin(), shown.end(), [](char c) { return c == '\\' || c == ':' || c == '?' || c == '~'; }, '_');
+    const std::size_t dot = shown.rfind('.');
+    const std::size_t end = dot == std::string::npos || dot == 0 ? shown.size() : dot;
+    return shown.substr(0, end) + '~' + markOf(hostName) + shown.substr(end);
 }
 
 } // namespace
 
 std::string driveName(std::string_view hostName)
 {
-    std::string name = fromUtf8Lossy(hostName);
-    std::replace_if(
-        name.begin(), name.end(), [](char c) { return c == '\\' || c == ':'; }, '?');
-    return name;
+    const auto name = fromUtf8(hostName);
+    const bool plain = name && name->find_first_of("\\:") == std::string::npos && !readsAsAlias(*name);
+    return plain ? *name : aliasOf(hostName);
 }
 
 std::string rememberedDriveName(const std::filesystem::path &folder, std::string_view hostName)
 {
     const std::string name = driveName(hostName);
-    if (name.find('?') != std::string::npos)
-        chosenNames()[{folder.native(), folded(name)}] = hostName;
+    if (readsAsAlias(name))
+        namedFiles()[{folder.native(), folded(name)}] = hostName;
     return name;
 }
 
 std::filesystem::path findName(const std::filesystem::path &folder, std::string_view name)
 {
-    if (name.find('?') != std::string_view::npos) {
-        const auto chosen = chosenNames().find({folder.native(), folded(name)});
-        if (chosen != chosenNames().end())
-            return folder / chosen->second;
-    }
+    const bool alias = readsAsAlias(name);
     const std::filesystem::path exact = folder / toUtf8(name);
     struct stat status;
-    if (lstat(exact.c_str(), &status) == 0 || stat(folder.c_str(), &status) != 0)
+    if ((!alias && lstat(exact.c_str(), &status) == 0) || stat(folder.c_str(), &status) != 0)
         return exact;
     const auto &hostNames = namesOf(folder, status.st_mtim).hostNames;
     const auto found = hostNames.find(folded(name));
-    return found == hostNames.end() ? exact : folder / found->second;
+    if (found != hostNames.end())
+        return folder / found->second;
+    const auto named = alias ? namedFiles().find({folder.native(), folded(name)}) : namedFiles().end();
+    return named == namedFiles().end() ? exact : folder / named->second;
 }
 
 } // namespace corvanta

@@ -1,5 +1,6 @@
 #include "platform/paths.h"
 
+#include "platform/codepage.h"
 #include "platform/folder_names.h"
 #include "platform/media.h"
 #include "platform/text.h"
@@ -17,6 +18,17 @@ struct Drive {
     char letter = 'C';
     fs::path root = "/";
 };
+
+struct ShownDirectory {
+    std::string shown;
+    fs::path folder;
+};
+
+ShownDirectory &shownDirectory()
+{
+    static ShownDirectory directory;
+    return directory;
+}
 
 struct Drives {
     std::vector<Drive> list = {{}}; // C: first, then the media
@@ -156,6 +168,7 @@ void setDriveRoot(const fs::path &hostFolder)
     const fs::path absolute = fs::absolute(hostFolder, error);
     const fs::path root = withoutTrailingSeparator((error ? hostFolder : absolute).lexically_normal());
     drives() = {{{'C', root}}, false, 'C', root};
+    shownDirectory() = {};
 }
 
 std::vector<std::string> driveList()
@@ -171,6 +184,9 @@ fs::path hostPath(std::string_view drivePath)
 {
     if (drivePath.find('\0') != std::string_view::npos)
         return nowhere();
+    const ShownDirectory &known = shownDirectory();
+    if (!known.shown.empty() && drivePath.starts_with(known.shown))
+        return descend(known.folder, drivePath.substr(known.shown.size()), known.folder);
     const char letter = takeDriveLetter(drivePath);
     if (findDrive(letter) == nullptr)
         refreshMedia();
@@ -187,6 +203,30 @@ std::string drivePath(const fs::path &hostPath)
     const fs::path path = withoutTrailingSeparator(fs::absolute(hostPath, error).lexically_normal());
     const Drive *drive = error ? nullptr : driveOf(path);
     return drive == nullptr ? std::string() : pathOnDrive(*drive, path);
+}
+
+void letStandFor(std::string_view shown, std::string_view directory)
+{
+    shownDirectory() = {};
+    shownDirectory() = {std::string(shown), hostPath(directory)};
+}
+
+std::string realPath(std::string_view drivePath)
+{
+    if (drivePath.find('~') == std::string_view::npos)
+        return toUtf8(drivePath);
+    std::string real;
+    std::size_t begin = 0;
+    while (begin <= drivePath.size()) {
+        const std::size_t end = std::min(drivePath.find('\\', begin), drivePath.size());
+        const std::string_view name = drivePath.substr(begin, end - begin);
+        const bool alias = name.find('~') != std::string_view::npos;
+        real += alias ? hostPath(drivePath.substr(0, end)).filename().string() : toUtf8(name);
+        if (end < drivePath.size())
+            real += '\\';
+        begin = end + 1;
+    }
+    return real;
 }
 
 std::string currentDirectory()

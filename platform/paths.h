@@ -24,6 +24,13 @@ std::filesystem::path hostPath(std::string_view drivePath);
 // The drive path of a host path (made absolute first). Empty when it is outside every drive.
 std::string drivePath(const std::filesystem::path &hostPath);
 
+// A drive path as people read it, in UTF-8: with the real names of files that have aliases.
+std::string realPath(std::string_view drivePath);
+
+// From now on a drive path of a directory, with its trailing "\", stands for the directory that another one means at
+// this moment: so capitals can be shown for it where others differ in case only. One at a time.
+void letStandFor(std::string_view shown, std::string_view directory);
+
 // The process's current drive and directory, without a trailing "\" except for a drive root.
 std::string currentDirectory();
 

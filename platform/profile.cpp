@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <limits>
 #include <optional>
+#include <vector>
 
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wall"
@@ -25,7 +26,7 @@ namespace corvanta {
 namespace {
 
 constexpr std::uintmax_t profileLimit = 1 << 20;
-constexpr std::size_t longestValue = 255;
+constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
 std::filesystem::path defaultFolder()
 {
@@ -44,21 +45,8 @@ std::filesystem::path &profileFolder()
 
 std::filesystem::path profilePath(std::string_view fileName) { return profileFolder() / toUtf8(fileName); }
 
-// Stands after the last key while a file is rewritten: the library keeps comments that precede something only.
-constexpr char endMark[] = "[corvanta: end of the file]";
-
-// Stands before a value's leading blanks while a file is rewritten: the library drops those too.
-constexpr char blankGuard = '\x01';
-
-std::string withGuardedBlanks(std::string text)
-{
-    for (std::size_t at = text.find("= "); at != std::string::npos; at = text.find("= ", at + 2))
-        text.insert(at + 1, 1, blankGuard);
-    return text;
-}
-
 // False when there is a file that cannot be read as a profile.
-bool readProfile(std::string_view fileName, CSimpleIniA &ini)
+bool readProfile(std::string_view fileName, CSimpleIniA &ini, std::string &bytes)
 {
     const FileContent content = readHostFile(profilePath(fileName), profileLimit);
     if ((!content.error.empty() && !content.missing) || content.tooLarge ||
@@ -66,8 +54,8 @@ bool readProfile(std::string_view fileName, CSimpleIniA &ini)
         return false;
     ini.SetUnicode();
     ini.SetMultiKey();
-    ini.SetSpaces(false);
-    return ini.LoadData(withGuardedBlanks(content.bytes) + "\n" + endMark + "\n") >= 0;
+    bytes = content.bytes;
+    return ini.LoadData(bytes) >= 0;
 }
 
 std::optional<std::string> storedValue(const CSimpleIniA &ini, std::string_view section, std::string_view key)
@@ -75,22 +63,83 @@ std::optional<std::string> storedValue(const CSimpleIniA &ini, std::string_view 
     const char *value = ini.GetValue(toUtf8(section).c_str(), toUtf8(key).c_str());
     if (value == nullptr)
         return std::nullopt;
-    std::string text = value;
-    std::erase(text, blankGuard);
-    return trimmed(fromUtf8Lossy(text));
+    return trimmed(fromUtf8Lossy(value));
 }
 
-std::optional<std::string> profileText(const CSimpleIniA &ini)
+// The lines of a text with their ends.
+std::vector<std::string> linesOf(std::string_view text)
+{
+    std::vector<std::string> lines;
+    while (!text.empty()) {
+        const std::size_t end = text.find('\n');
+        const std::size_t length = end == std::string_view::npos ? text.size() : end + 1;
+        lines.emplace_back(text.substr(0, length));
+        text.remove_prefix(length);
+    }
+    return lines;
+}
+
+std::string_view withoutEnd(std::string_view line) { return line.substr(0, line.find_first_of("\r\n")); }
+
+std::string joined(const std::vector<std::string> &lines)
 {
     std::string text;
-    if (ini.Save(text) < 0)
+    for (const std::string &line : lines)
+        text += line;
+    return text;
+}
+
+std::optional<std::string> headerOf(std::string_view line)
+{
+    if (line.starts_with(byteOrderMark))
+        line.remove_prefix(byteOrderMark.size());
+    const std::string text = trimmed(withoutEnd(line));
+    const std::size_t end = text.find(']');
+    if (!text.starts_with('[') || end == std::string::npos)
         return std::nullopt;
-    std::erase(text, blankGuard);
-    const std::size_t mark = text.find(endMark);
-    if (mark != std::string::npos)
-        text.erase(mark, text.find('\n', mark) + 1 - mark);
-    text.erase(text.find_last_not_of('\n') + 1);
-    return text + "\n";
+    return trimmed(std::string_view(text).substr(1, end - 1));
+}
+
+bool hasKey(std::string_view line, std::string_view key)
+{
+    const std::size_t equals = line.find('=');
+    const std::string name = trimmed(line.substr(0, std::min(equals, line.size())));
+    return equals != std::string_view::npos && !name.starts_with(';') && !name.starts_with('#') && sameText(name, key);
+}
+
+// The text with one value set; every other byte stays. The library would write all of it anew, in its own form.
+std::string withValue(std::string_view text, std::string_view section, std::string_view key, std::string_view value)
+{
+    std::vector<std::string> lines = linesOf(text);
+    const std::string end = !lines.empty() && lines.front().ends_with("\r\n") ? "\r\n" : "\n";
+    const auto keyLine = std::string(key) + '=' + std::string(value) + end;
+    std::optional<std::size_t> place; // after the last line of the section that is not blank
+    bool inside = false;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (const auto header = headerOf(lines[i])) {
+            if (inside)
+                break;
+            inside = sameText(*header, section);
+        } else if (inside && hasKey(lines[i], key)) {
+            const std::string_view line = lines[i];
+            lines[i] = std::string(line.substr(0, line.find('=') + 1)) + std::string(value) +
+                       std::string(line.substr(withoutEnd(line).size()));
+            return joined(lines);
+        }
+        if (inside && !trimmed(withoutEnd(lines[i])).empty())
+            place = i + 1;
+    }
+    if (!lines.empty() && !lines.back().ends_with('\n') && (!place || *place == lines.size()))
+        lines.back() += end;
+    if (place) {
+        lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(*place), keyLine);
+    } else {
+        if (!lines.empty())
+            lines.push_back(end);
+        lines.push_back('[' + std::string(section) + ']' + end);
+        lines.push_back(keyLine);
+    }
+    return joined(lines);
 }
 
 } // namespace
@@ -101,8 +150,9 @@ std::string GetPrivateProfileString(std::string_view section, std::string_view k
                                     std::string_view fileName)
 {
     CSimpleIniA ini;
-    const auto value = readProfile(fileName, ini) ? storedValue(ini, section, key) : std::nullopt;
-    return value ? value->substr(0, longestValue) : std::string(fallback);
+    std::string bytes;
+    const auto value = readProfile(fileName, ini, bytes) ? storedValue(ini, section, key) : std::nullopt;
+    return value.value_or(std::string(fallback));
 }
 
 int GetPrivateProfileInt(std::string_view section, std::string_view key, int fallback, std::string_view fileName)
@@ -118,16 +168,23 @@ bool WritePrivateProfileString(std::string_view section, std::string_view key, s
                                std::string_view fileName)
 {
     CSimpleIniA ini;
-    if (!readProfile(fileName, ini))
+    std::string bytes;
+    if (!readProfile(fileName, ini, bytes))
         return false;
     value = value.substr(0, value.find_first_of(std::string_view("\0\r\n", 3)));
     if (storedValue(ini, section, key) == trimmed(value))
         return true;
-    ini.SetValue(toUtf8(section).c_str(), toUtf8(key).c_str(), toUtf8(value).c_str(), nullptr, true);
-    const auto text = profileText(ini);
+    const std::string text = withValue(bytes, toUtf8(section), toUtf8(key), toUtf8(value));
     std::error_code error;
     std::filesystem::create_directories(profileFolder(), error);
-    return text && !writeHostFileAtomically(profilePath(fileName), *text);
+    return !writeHostFileAtomically(profilePath(fileName), text);
+}
+
+bool profileUsable(std::string_view fileName)
+{
+    CSimpleIniA ini;
+    std::string bytes;
+    return readProfile(fileName, ini, bytes);
 }
 
 std::string profileNumber(int value) { return (value < 0 ? "" : " ") + std::to_string(value); }

@@ -57,10 +57,11 @@ std::string normalDirectory(std::string_view directory) { return withTrailingBac
 void choosePageDirectory(std::string_view directory)
 {
     std::string &curdir = editing().curdir;
-    const std::string before = curdir;
+    const auto before = hostPath(curdir);
     curdir = normalDirectory(directory);
+    letStandFor(curdir, trimmed(directory));
     changeDirectory(curdir);
-    if (!sameText(before, curdir))
+    if (before != hostPath(curdir))
         loadPageMedia();
 }
 

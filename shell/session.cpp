@@ -16,6 +16,7 @@
 #include "shell/commands.h"
 
 #include <algorithm>
+#include <charconv>
 #include <filesystem>
 
 namespace corvanta {
@@ -41,8 +42,30 @@ std::string absoluteDrivePath(const std::string &path)
     return !drive || sameText(path.substr(0, 2), here.substr(0, 2)) ? here + rest : path;
 }
 
+// "file:///home/ann/a%20b.ods" as "/home/ann/a b.ods".
+std::string pathOfAddress(std::string_view address)
+{
+    address.remove_prefix(std::string_view("file://").size());
+    address.remove_prefix(std::min(address.find('/'), address.size())); // the host's name
+    std::string path;
+    for (std::size_t i = 0; i < address.size(); ++i) {
+        unsigned value = 0;
+        const char *digits = address.data() + i + 1;
+        if (address[i] == '%' && i + 2 < address.size() &&
+            std::from_chars(digits, digits + 2, value, 16).ptr == digits + 2) {
+            path += static_cast<char>(value);
+            i += 2;
+        } else {
+            path += address[i];
+        }
+    }
+    return path;
+}
+
 std::string drivePathOfArgument(std::string_view argument)
 {
+    if (argument.starts_with("file://"))
+        return drivePathOfArgument(pathOfAddress(argument));
     if (isDrivePath(argument)) {
         std::string path = fromUtf8Lossy(argument);
         std::replace(path.begin(), path.end(), '/', '\\');
@@ -110,6 +133,8 @@ CommandLineFile commandLineFile(std::string_view argument)
     if (argument.empty())
         return {};
     const std::string path = drivePathOfArgument(argument);
+    if (directoryExists(path))
+        return {withTrailingBackslash(path), {}};
     const bool bare = argument.find_first_of("/\\") == std::string_view::npos;
     return {bare ? std::string() : directoryPart(path), path.substr(path.rfind('\\') + 1)};
 }
@@ -123,12 +148,14 @@ void startSession(std::string_view argument)
     });
     newPage();
     const CommandLineFile file = commandLineFile(argument);
+    if (!file.directory.empty()) {
+        editing().curdir = file.directory;
+        changeDirectory(file.directory);
+    }
     if (file.name.empty())
         return;
     if (file.directory.empty())
         return openFromCurrentDirectory(file.name);
-    editing().curdir = file.directory;
-    changeDirectory(file.directory);
     openPage(file.directory + file.name);
 }
 

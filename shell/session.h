@@ -24,7 +24,7 @@ SessionSteps &sessionSteps();
 // in UTF-8.
 struct CommandLineFile {
     std::string directory; // drive path with its trailing "\"; empty for a bare file name
-    std::string name;
+    std::string name;      // empty when a directory was named
 };
 
 CommandLineFile commandLineFile(std::string_view argument);

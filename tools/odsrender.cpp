@@ -12,6 +12,7 @@
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
+#include <QSaveFile>
 #include <QString>
 
 #include <cstdio>
@@ -60,14 +61,18 @@ QImage renderedPage(Page &p)
 
 int render(const Job &job)
 {
-    const std::string path = job.input.empty() ? std::string() : drivePath(std::filesystem::absolute(job.input));
+    const std::string path = job.input.empty() ? std::string() : drivePath(job.input);
     if (const std::string reason = obstacle(path); !reason.empty())
         return fail(job.input, reason);
     editing().curdir = directoryPart(path);
     openPage(path);
     if (std::int64_t{page().bkgwd} * page().bkght > mostPixels)
         return fail(job.input, "the page is too large for a picture");
-    if (!renderedPage(page()).save(QString::fromStdString(job.output), "PNG"))
+    std::error_code different;
+    if (std::filesystem::equivalent(job.input, job.output, different))
+        return fail(job.output, "is the page itself");
+    QSaveFile file(QString::fromStdString(job.output));
+    if (!file.open(QIODevice::WriteOnly) || !renderedPage(page()).save(&file, "PNG") || !file.commit())
         return fail(job.output, "cannot be written");
     return 0;
 }

@@ -72,7 +72,7 @@ public:
         setNameFilters(corvanta::nameFilters(question.filter));
         const std::filesystem::path start = hostPath(question.initialDirectory);
         setDirectory(hostText(isDirectory(start) ? start : hostPath(currentDirectory())));
-        nameEdit()->setText(toQString(question.fileName));
+        nameEdit()->setText(shownPath(question.initialDirectory + '\\' + question.fileName).section('\\', -1));
         nameEdit()->selectAll();
         widenForColumns();
     }

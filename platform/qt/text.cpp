@@ -1,6 +1,7 @@
 #include "platform/qt/text.h"
 
 #include "platform/codepage.h"
+#include "platform/paths.h"
 
 #include <QList>
 
@@ -33,6 +34,12 @@ QString toQString(std::string_view bytes)
     for (const char byte : bytes)
         *target++ = table[static_cast<unsigned char>(byte)];
     return text;
+}
+
+QString shownPath(std::string_view drivePath)
+{
+    return drivePath.find('~') == std::string_view::npos ? toQString(drivePath)
+                                                         : QString::fromStdString(realPath(drivePath));
 }
 
 std::string toBytes(const QString &text)

@@ -10,6 +10,9 @@ namespace corvanta {
 
 QString toQString(std::string_view bytes);
 
+// A drive path as people read it: with the real names of files that the code page cannot spell.
+QString shownPath(std::string_view drivePath);
+
 // Characters that the code page lacks become "?".
 std::string toBytes(const QString &text);
 

@@ -22,7 +22,9 @@ constexpr int pathRole = Qt::UserRole;
 
 QListWidgetItem *listItem(const DirectoryRow &row, const QStyle &style)
 {
-    auto *item = new QListWidgetItem(QString(row.depth * indent, ' ') + toQString(row.name));
+    const bool root = row.depth == 0;
+    const QString name = root ? toQString(row.name) : shownPath(row.path).section('\\', -1);
+    auto *item = new QListWidgetItem(QString(row.depth * indent, ' ') + name);
     item->setData(pathRole, toQString(row.path));
     item->setIcon(style.standardIcon(row.open ? QStyle::SP_DirOpenIcon : QStyle::SP_DirClosedIcon));
     return item;
@@ -58,7 +60,7 @@ void Hpsdir::show(const DirectoryChoice &shown)
 {
     choice = shown;
     drivelist->setCurrentIndex(drivelist->findText(toQString(choice.drive)));
-    curdirec->setText(toQString(choice.path));
+    curdirec->setText(shownPath(choice.path));
     direclist->clear();
     for (const DirectoryRow &row : directoryRows(choice.path)) {
         direclist->addItem(listItem(row, *style()));

@@ -56,7 +56,16 @@ void Hpsedit::refreshCommands()
     strip->refreshCommands();
 }
 
-void Hpsedit::refreshFile() { strip->filePanel().setFile(toQString(filePanelCaption()), toQString(editing().filetag)); }
+void Hpsedit::refreshFile()
+{
+    const std::string &tag = editing().filetag;
+    const QString path = shownPath(tag);
+    const bool real = path != toQString(tag);
+    QString caption = real ? path.section('\\', -1).toUpper() : toQString(filePanelCaption());
+    if (real)
+        caption.replace('&', QStringLiteral("&&"));
+    strip->filePanel().setFile(caption, path);
+}
 
 void Hpsedit::openMenu(char letter)
 {

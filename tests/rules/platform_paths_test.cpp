@@ -1,10 +1,12 @@
 #include "platform/codepage.h"
 #include "platform/media.h"
 #include "platform/paths.h"
+#include "platform/text.h"
 #include "tests/support/temporary_drive.h"
 
 #include <gtest/gtest.h>
 
+#include <set>
 #include <sstream>
 
 namespace corvanta {
@@ -85,17 +87,30 @@ TEST_F(Paths, startFromTheCurrentDirectory)
     EXPECT_EQ(drivePath(drive.root()), "C:\\");
 }
 
-TEST_F(Paths, ofNamesBeyondTheCodePageStayUsable)
+TEST_F(Paths, ofNamesBeyondTheCodePageAreTheirOwnEach)
 {
-    drive.add("日/Ünï.ods", "1");
-    const fs::path second = drive.add("日/本.ods", "2");
-    const fs::path first = drive.add("日/日.ods", "1");
-    EXPECT_EQ(lookedUp("C:\\?\\\xDCN\xCF.ODS"), "日/Ünï.ods");
-    EXPECT_EQ(lookedUp("C:\\?\\?.ODS"), "日/日.ods") << "the first in byte order";
-    EXPECT_EQ(drivePath(second), "C:\\?\\?.ods");
-    EXPECT_EQ(hostPath("C:\\?\\?.ODS"), second) << "the chosen file, not the first that matches";
-    EXPECT_EQ(drivePath(first), "C:\\?\\?.ods");
-    EXPECT_EQ(hostPath("C:\\?\\?.ods"), first);
+    const std::vector<std::string> names = {"日.ods",      "本.ods",     "日/Ünï.ods", "日/a\\b.ods",
+                                            "日/c:d.ods",  "日/c_d.ods", "日/q?.ods",  "日",
+                                            "日/\xff.ods", "a.ods",      "A.ods"};
+    std::set<std::string> drivePaths;
+    for (const std::string &name : names) {
+        if (name != "日")
+            drive.add(name, name);
+        drivePaths.insert(drivePath(drive.root() / name));
+    }
+    EXPECT_EQ(drivePaths.size(), names.size());
+    // What the alias of another file reads like is no other file's name.
+    const std::string alias = fileNamePart(drivePath(drive.root() / "日.ods"));
+    drive.add(alias, "imitation");
+    for (const std::string &name : names) {
+        EXPECT_EQ(hostPath(drivePath(drive.root() / name)), drive.root() / name);
+        EXPECT_EQ(hostPath(upperCase(drivePath(drive.root() / name))).parent_path(),
+                  (drive.root() / name).parent_path());
+    }
+    EXPECT_EQ(hostPath(drivePath(drive.root() / alias)), drive.root() / alias);
+    EXPECT_EQ(lookedUp("C:\\A.ods"), "A.ods");
+    EXPECT_EQ(lookedUp("C:\\a.ods"), "a.ods");
+    EXPECT_EQ(realPath(drivePath(drive.root() / "日/Ünï.ods")), "C:\\日\\Ünï.ods");
     const fs::path unwritten = drive.root() / "new語.ods";
     EXPECT_EQ(hostPath(drivePath(unwritten)), unwritten);
 }

@@ -43,26 +43,32 @@ TEST_F(Profile, writesTheLeadingBlankAndReadsNone)
     EXPECT_EQ(profileNumber(0), " 0");
 }
 
-TEST_F(Profile, keepsForeignContent)
+TEST_F(Profile, keepsForeignContentByteForByte)
 {
-    drive.add("config/CORVANTA.INI", "; made by hand\n\n"
-                                     "[Other]\nempty=\n; about x\nx=<<<END\nX=2\n\n"
-                                     "[corvanta page editor]\n; the top\nmaintop=5\nforeign=\"q\"\n\n"
-                                     "[Last]\nz=1\n; the end\n\n# of it");
-    EXPECT_TRUE(write("MainTop", " 7"));
-    EXPECT_TRUE(write("MainLeft", " 8"));
-    const std::string text = stored();
-    std::size_t at = 0;
-    for (const char *part :
-         {"; made by hand\n", "[Other]\nempty=\n", "; about x\nx=<<<END\n", "=2\n", "[corvanta page editor]\n",
-          "; the top\n", "= 7\n", "foreign=\"q\"\n", "MainLeft= 8\n", "[Last]\nz=1\n", "; the end\n", "# of it\n"}) {
-        const std::size_t found = text.find(part, at);
-        EXPECT_NE(found, std::string::npos) << part << "in order in\n" << text;
-        at = found == std::string::npos ? at : found;
+    const std::string head = "; made by hand\n\n[Other]\nempty=\n; about x\nx=<<<END\nX=2\n\n";
+    const std::string tail = "\n[Last]\nz=1\n no equals sign\n[unclosed\n\n; the end\n\n# of it";
+    const std::pair<std::string, std::string> files[] = {
+        {head + "[corvanta page editor]\n; the top\nmaintop=5\nforeign=\"q\"\n" + tail,
+         head + "[corvanta page editor]\n; the top\nmaintop= 7\nforeign=\"q\"\nMainLeft= 8\n" + tail},
+        {"\xEF\xBB\xBF[Corvanta Page Editor]\r\n MainTop = 5 \r\n\r\n[Next]\r\n",
+         "\xEF\xBB\xBF[Corvanta Page Editor]\r\n MainTop = 7\r\nMainLeft= 8\r\n\r\n[Next]\r\n"},
+        {"[Other]\nx=1", "[Other]\nx=1\n\n[Corvanta Page Editor]\nMainTop= 7\nMainLeft= 8\n"},
+        {"", "[Corvanta Page Editor]\nMainTop= 7\nMainLeft= 8\n"},
+    };
+    for (const auto &[before, after] : files) {
+        drive.add("config/CORVANTA.INI", before);
+        for (int times = 0; times < 3; ++times) {
+            EXPECT_TRUE(write("MainTop", " 9") && write("MainTop", " 7") && write("MainLeft", " 8"));
+            EXPECT_EQ(stored(), after);
+        }
     }
-    EXPECT_TRUE(text.ends_with("# of it\n"));
-    EXPECT_TRUE(write("MainTop", " 9") && write("MainTop", " 7"));
-    EXPECT_EQ(stored(), text) << "rewriting adds nothing";
+    const std::string longPath = "C:\\" + std::string(400, 'x') + "\\";
+    EXPECT_TRUE(write("DefaultPath", longPath));
+    EXPECT_EQ(read("DefaultPath"), longPath);
+    drive.add("config/CORVANTA.INI", std::string("MainTop=\0", 9));
+    EXPECT_FALSE(profileUsable(file));
+    EXPECT_FALSE(write("MainTop", " 7"));
+    EXPECT_EQ(stored(), std::string("MainTop=\0", 9));
 }
 
 } // namespace corvanta
