@@ -5,6 +5,7 @@
 #include "document/page_file.h"
 #include "platform/asking.h"
 #include "platform/file_stamp.h"
+#include "platform/files.h"
 #include "platform/paths.h"
 #include "platform/text.h"
 
@@ -18,6 +19,7 @@ struct Remembered {
     std::string path;
     std::optional<FileStamp> stamp;
     std::optional<FileStamp> declined; // the author keeps the page although the file became this one
+    PageDamage damage;
 };
 Remembered remembered;
 
@@ -27,7 +29,25 @@ bool samePath(const std::string &a, const std::string &b) { return hostPath(a) =
 
 void rememberFile(const std::string &path)
 {
-    remembered = {path, path.empty() ? std::nullopt : fileStamp(path), std::nullopt};
+    remembered = {path, path.empty() ? std::nullopt : fileStamp(path), std::nullopt, {}};
+}
+
+const PageDamage &fileDamage() { return remembered.damage; }
+
+void noteDamage(PageDamage damage) { remembered.damage = std::move(damage); }
+
+bool keepDamagedBytes(const std::string &path)
+{
+    if (!remembered.damage || !samePath(path, remembered.path))
+        return true;
+    std::string copy = path + ".bak";
+    for (int number = 2; fileExists(copy); ++number)
+        copy = path + ".bak" + std::to_string(number);
+    const FileContent old = readFile(path, fileLimit);
+    const auto error = old.missing ? std::nullopt : writeFileAtomically(copy, old.bytes);
+    if (error)
+        showExclamation(*error, savingFile);
+    return !error;
 }
 
 bool fileIsAnother(const std::string &path)

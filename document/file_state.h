@@ -1,5 +1,7 @@
 #pragma once
 
+#include "document/page_damage.h"
+
 #include <string>
 
 // What the process-wide page's file was when the editor last read or wrote it.
@@ -7,6 +9,15 @@ namespace corvanta {
 
 // After reading or writing the page's file, by drive path; an empty path for a new page.
 void rememberFile(const std::string &path);
+
+// What saving would lose of the file as it was opened.
+const PageDamage &fileDamage();
+// Notes it. The first save over that file keeps the old bytes beside it.
+void noteDamage(PageDamage damage);
+
+// Before the page is written to a path: keeps the bytes of a damaged file as NAME.ods.bak (bak2 and so on). False when
+// that failed, which has been told.
+bool keepDamagedBytes(const std::string &path);
 
 // Whether the file is there and is not what was remembered: changed or replaced by another program, or on another
 // device.

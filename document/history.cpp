@@ -129,6 +129,11 @@ void stopHistory() { history() = {}; }
 void resetHistory()
 {
     History &h = history();
+    for (Step &step : h.steps) { // they hold the data source's password
+        wipe(step.state.dbconnect);
+        wipe(step.bytes);
+    }
+    wipe(h.saved);
     h.steps.clear();
     h.memory = 0;
     push(present(""));

@@ -47,10 +47,29 @@ void markSaved()
     documentEvents().clean();
 }
 
+bool holdsPassword(const Page &p) { return !connectPart(p, 2).empty(); }
+
+// Once in a run of the editor: it is the author's own choice where pages lie.
+void tellOfReadablePassword(const std::string &path)
+{
+    static bool told = false;
+    if (told || !holdsPassword(page()) || !othersMayRead(path))
+        return;
+    told = true;
+    showMessage({.text = "This page holds a password, and other users of this computer may read its file.",
+                 .title = savingFile,
+                 .icon = Icon::Information});
+}
+
 bool writePage(const std::string &path)
 {
-    if (!writeWholeFile(path, pageText()))
+    const std::string text = pageText();
+    removeStrayFiles(directoryOfFile(path));
+    if (text.size() <= fileLimit && !keepDamagedBytes(path))
         return false;
+    if (!writeWholeFile(path, text, holdsPassword(page()) ? FileMode::Private : FileMode::Usual))
+        return false;
+    tellOfReadablePassword(path);
     markSaved();
     rememberFile(path);
     return true;
@@ -188,13 +207,13 @@ std::string readWholeFile(std::string_view path, std::size_t limit)
     return {};
 }
 
-bool writeWholeFile(std::string_view path, std::string_view text)
+bool writeWholeFile(std::string_view path, std::string_view text, FileMode mode)
 {
     if (text.size() > fileLimit) {
         showExclamation("File too large.", savingFile);
         return false;
     }
-    const auto error = writeFileAtomically(path, text);
+    const auto error = writeFileAtomically(path, text, mode);
     if (error)
         showExclamation(*error, savingFile);
     return !error;
@@ -203,6 +222,7 @@ bool writeWholeFile(std::string_view path, std::string_view text)
 void newPage()
 {
     clearObjects();
+    wipe(page().dbconnect);
     page() = Page();
     rememberFile("");
     editing().lentSize.reset();
@@ -220,11 +240,18 @@ void openPage(const std::string &path)
     newPage();
     setFileTag(path);
     const CollectedMessages collected;
-    parsePage(page(), readWholeFile(path, fileLimit));
+    std::string bytes = readWholeFile(path, fileLimit);
+    parsePage(page(), bytes);
     rememberFile(path);
+    if (!bytes.empty())
+        noteDamage(damageOf(bytes));
+    wipe(bytes);
     loadPageMedia();
     editing().curdir = directoryOfFile(path);
+    removeStrayFiles(directoryOfFile(path));
     resetHistory();
+    if (fileDamage())
+        documentEvents().notice(fileDamage().summary);
 }
 
 bool savePage()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/page.h"
+#include "platform/files.h"
 
 #include <string>
 #include <string_view>
@@ -28,7 +29,7 @@ bool isPageFile(std::string_view bytes);
 // The file's whole content; empty on any failure, which is told while msgflag is set.
 std::string readWholeFile(std::string_view path, std::size_t limit);
 // True when the text was written; a failure is told. Texts of 16,385 bytes or more are refused.
-bool writeWholeFile(std::string_view path, std::string_view text);
+bool writeWholeFile(std::string_view path, std::string_view text, FileMode mode = FileMode::Usual);
 
 // The process-wide page becomes a new, empty one.
 void newPage();

@@ -7,8 +7,12 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <csignal>
+#include <cstring>
+#include <ctime>
 #include <fcntl.h>
 #include <random>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
@@ -20,6 +24,8 @@ namespace {
 
 constexpr int noError = 0;
 constexpr int temporaryNameTries = 100;
+constexpr std::string_view strayPrefix = ".corvanta-";
+constexpr std::time_t youngest = 10; // seconds: a writer that has just made its file has not locked it yet
 
 // An open file; closed at the end.
 class Descriptor {
@@ -103,19 +109,21 @@ std::string randomName()
 {
     static thread_local std::random_device random;
     constexpr char digits[] = "0123456789abcdef";
-    std::string name = ".corvanta-";
+    std::string name(strayPrefix);
     for (int i = 0; i < 16; ++i)
         name += digits[random() % 16];
     return name;
 }
 
-TemporaryFile openTemporary(const std::filesystem::path &folder, mode_t mode)
+TemporaryFile openTemporary(const std::filesystem::path &folder)
 {
     for (int i = 0; i < temporaryNameTries; ++i) {
         const std::filesystem::path name = folder / randomName();
-        Descriptor file(open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode));
-        if (file)
+        Descriptor file(open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+        if (file) {
+            flock(file.get(), LOCK_EX | LOCK_NB); // tells it from those of dead writers
             return {std::move(file), name};
+        }
         if (errno != EEXIST)
             break;
     }
@@ -160,9 +168,19 @@ int writeInPlace(const std::filesystem::path &target, std::string_view bytes)
     return error != noError ? error : closing;
 }
 
-int fillTemporary(Descriptor &file, std::string_view bytes, const struct stat *target)
+// The mode that a new file of the user's gets.
+mode_t usualMode()
+{
+    const mode_t mask = umask(0);
+    umask(mask);
+    return 0666 & ~mask;
+}
+
+int fillTemporary(Descriptor &file, std::string_view bytes, const struct stat *target, FileMode mode)
 {
     int error = writeAll(file.get(), bytes);
+    if (error == noError && target == nullptr && mode == FileMode::Usual)
+        error = errorOf(fchmod(file.get(), usualMode()));
     if (error == noError && target != nullptr)
         error = takeOver(file.get(), *target);
     if (error == noError)
@@ -174,7 +192,7 @@ int fillTemporary(Descriptor &file, std::string_view bytes, const struct stat *t
 // In a sticky folder, on a mount point, on another device.
 bool renamingRefused(int error) { return error == EPERM || error == EACCES || error == EBUSY || error == EXDEV; }
 
-int replaceFile(const std::filesystem::path &file, std::string_view bytes)
+int replaceFile(const std::filesystem::path &file, std::string_view bytes, FileMode mode)
 {
     const std::filesystem::path target = followLinks(file);
     struct stat status;
@@ -183,12 +201,12 @@ int replaceFile(const std::filesystem::path &file, std::string_view bytes)
         return errno;
     if (exists && irregularFileError(status) != noError)
         return irregularFileError(status);
-    TemporaryFile temporary = openTemporary(target.parent_path(), exists ? 0600 : 0666);
+    TemporaryFile temporary = openTemporary(target.parent_path());
     if (!temporary.file) {
         const bool closedFolder = temporary.error == EACCES || temporary.error == EPERM || temporary.error == EROFS;
         return exists && closedFolder ? writeInPlace(target, bytes) : temporary.error;
     }
-    int error = fillTemporary(temporary.file, bytes, exists ? &status : nullptr);
+    int error = fillTemporary(temporary.file, bytes, exists ? &status : nullptr, mode);
     if (error == noError)
         error = errorOf(rename(temporary.name.c_str(), target.c_str()));
     if (exists && renamingRefused(error)) {
@@ -233,9 +251,10 @@ FileContent readHostFile(const std::filesystem::path &file, std::uintmax_t limit
     return content;
 }
 
-std::optional<std::string> writeHostFileAtomically(const std::filesystem::path &file, std::string_view bytes)
+std::optional<std::string> writeHostFileAtomically(const std::filesystem::path &file, std::string_view bytes,
+                                                   FileMode mode)
 {
-    const int error = replaceFile(file, bytes);
+    const int error = replaceFile(file, bytes, mode);
     if (error == noError)
         return std::nullopt;
     return description(error);
@@ -246,9 +265,39 @@ FileContent readFile(std::string_view drivePath, std::uintmax_t limit)
     return readHostFile(hostPath(drivePath), limit);
 }
 
-std::optional<std::string> writeFileAtomically(std::string_view drivePath, std::string_view bytes)
+std::optional<std::string> writeFileAtomically(std::string_view drivePath, std::string_view bytes, FileMode mode)
 {
-    return writeHostFileAtomically(hostPath(drivePath), bytes);
+    return writeHostFileAtomically(hostPath(drivePath), bytes, mode);
 }
+
+void removeStrayFiles(std::string_view directory)
+{
+    std::error_code error;
+    std::filesystem::directory_iterator entry(hostPath(directory), error);
+    for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
+        const std::filesystem::path &file = entry->path();
+        if (!file.filename().native().starts_with(strayPrefix))
+            continue;
+        const Descriptor opened(open(file.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+        struct stat status;
+        if (opened && fstat(opened.get(), &status) == 0 && S_ISREG(status.st_mode) &&
+            std::time(nullptr) - status.st_mtime > youngest && flock(opened.get(), LOCK_EX | LOCK_NB) == 0)
+            unlink(file.c_str());
+    }
+}
+
+bool othersMayRead(std::string_view drivePath)
+{
+    struct stat status;
+    return stat(hostPath(drivePath).c_str(), &status) == 0 && (status.st_mode & (S_IRGRP | S_IROTH)) != 0;
+}
+
+void wipe(std::string &secret)
+{
+    explicit_bzero(secret.data(), secret.size());
+    secret.clear();
+}
+
+void takeFileErrorsAsErrors() { std::signal(SIGXFSZ, SIG_IGN); }
 
 } // namespace corvanta

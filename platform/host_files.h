@@ -9,6 +9,7 @@ namespace corvanta {
 
 FileContent readHostFile(const std::filesystem::path &file, std::uintmax_t limit);
 
-std::optional<std::string> writeHostFileAtomically(const std::filesystem::path &file, std::string_view bytes);
+std::optional<std::string> writeHostFileAtomically(const std::filesystem::path &file, std::string_view bytes,
+                                                   FileMode mode = FileMode::Usual);
 
 } // namespace corvanta

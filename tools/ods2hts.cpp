@@ -1,5 +1,6 @@
 #include "converter/convert.h"
 #include "platform/codepage.h"
+#include "platform/files.h"
 
 #include <CLI/CLI.hpp>
 
@@ -21,6 +22,7 @@ bool convert(const std::string &file)
 
 int main(int argc, char **argv)
 {
+    corvanta::takeFileErrorsAsErrors();
     CLI::App app("Writes the HTML template of each page file beside it, with the extension \"hts\".", "ods2hts");
     app.set_version_flag("--version", CORVANTA_VERSION);
     int codePage = 0;

@@ -1,5 +1,6 @@
 #include "document/encoding.h"
 #include "document/object_file.h"
+#include "document/page_damage.h"
 #include "document/page_file.h"
 #include "platform/text.h"
 #include "tools/odspage_commands.h"
@@ -16,6 +17,7 @@ struct Reading {
     Json json;
     std::string saved;
     std::int16_t version = currentVersion;
+    PageDamage damage = {};
 };
 
 // By the name; where that does not tell, by the first value: an object file starts with a small version, a
@@ -32,7 +34,7 @@ Reading readPageFile(std::string_view bytes)
 {
     Page p;
     parsePage(p, bytes);
-    return {pageJson(p), serialisePage(p), p.pgversion};
+    return {pageJson(p), serialisePage(p), p.pgversion, damageOf(bytes)};
 }
 
 Reading readObjectFile(std::string_view bytes)
@@ -47,6 +49,8 @@ Reading readObjectFile(std::string_view bytes)
 void warnOfChange(ToolRun &run, const std::string &file, const Reading &reading)
 {
     complain(run, file, "warning: saving would change this file");
+    for (const std::string &line : reading.damage.lines)
+        complain(run, file, "warning: " + line);
     if (reading.version != currentVersion)
         complain(run, file,
                  "warning: its format version is " + std::to_string(reading.version) + ", saved as " +

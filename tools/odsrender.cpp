@@ -88,6 +88,7 @@ void tellOnlyFailures(QtMsgType type, const QMessageLogContext &, const QString 
 
 int main(int argc, char **argv)
 {
+    takeFileErrorsAsErrors();
     Job job;
     CLI::App usage("Renders a page file as a PNG picture.", "odsrender");
     usage.add_option("FILE.ods", job.input, "the page file")->required();

@@ -21,6 +21,7 @@ struct EditformCommands {
     std::function<void()> openProperties; // of the current object; may return before the dialog is closed
     std::function<void()> deleteCurrent;  // the main window's delete command
     std::function<void()> currentChanged; // curobj was set: object commands may switch
+    std::function<void()> statusClicked;  // the status panel
     std::function<void()> closeRequested; // the user closed the canvas window
     std::function<void(QPoint, QByteArray)> fieldDropped; // a column: page point (pixels) and payload
     std::function<void(std::int16_t, QPoint, QPoint)>

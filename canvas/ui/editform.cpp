@@ -49,6 +49,7 @@ Editform::Editform()
     setObjectName(QStringLiteral("editform"));
     scroller->setWidget(area);
     setMinimumSize(smallestPage + QSize(0, toolbar->height() + statusPanel->height()));
+    statusPanel->clicked = [this] { tell(commands.statusClicked); };
     area->dropped = [this](QPoint at, const DragPayload &payload) { drop(at, payload); };
     input.pointed = [this](std::int16_t index) { showStatus(index); };
     editing().msgflag = true;

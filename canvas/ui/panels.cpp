@@ -49,6 +49,12 @@ void StatusPanel::setStatus(const QString &text)
         statusLine->setText(text);
 }
 
+void StatusPanel::mouseReleaseEvent(QMouseEvent *)
+{
+    if (clicked)
+        clicked();
+}
+
 void StatusPanel::arrange(int pageWidth)
 {
     const int inner = height() - 2 * gap, progress = std::min(progressWidth, pageWidth / 2);

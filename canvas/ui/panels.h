@@ -2,6 +2,8 @@
 
 #include <QFrame>
 
+#include <functional>
+
 class QLabel;
 
 // The parts of the canvas window round the page, which stand for those of the client.
@@ -25,8 +27,14 @@ public:
     explicit StatusPanel(QWidget *parent);
 
     void setStatus(const QString &text);
+
+    std::function<void()> clicked;
+
     // The status line takes what the progress panel leaves of a page of this width.
     void arrange(int pageWidth);
+
+protected:
+    void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
     QLabel *statusLine;

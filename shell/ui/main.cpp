@@ -1,5 +1,6 @@
 #include "document/recovery.h"
 #include "platform/codepage.h"
+#include "platform/files.h"
 #include "shell/session.h"
 #include "shell/ui/hpsedit.h"
 #include "shell/ui/rooms.h"
@@ -39,6 +40,7 @@ void describe(CLI::App &usage, CommandLine &line)
 
 int main(int argc, char **argv)
 {
+    takeFileErrorsAsErrors();
     CommandLine line;
     CLI::App usage("Lays out the pages of a host online service.", "corvanta");
     describe(usage, line);

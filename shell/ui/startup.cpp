@@ -47,6 +47,20 @@ namespace {
 
 constexpr int recoveryDelay = 500; // milliseconds
 
+void tellDamage()
+{
+    if (!fileDamage())
+        return;
+    std::string lines;
+    for (const std::string &line : fileDamage().lines)
+        lines += line + '\n';
+    showMessage({.text = "Saving would lose something of this file. The first save keeps the old bytes beside it, with "
+                         "the ending \".bak\".",
+                 .title = "Reading File",
+                 .icon = Icon::Information,
+                 .further = lines});
+}
+
 } // namespace
 
 EditorWindows::EditorWindows() : hpsedit(std::make_unique<Hpsedit>())
@@ -185,6 +199,7 @@ void EditorWindows::loadCanvas()
     commands.contextMenu = [this](std::int16_t index, QPoint at, QPoint onScreen) {
         openCanvasMenu(index, at, onScreen, editform.get());
     };
+    commands.statusClicked = tellDamage;
     addCommandKeys(*editform);
     commands.closeRequested = [this] { // after the canvas's own event: it does not outlive the session
         QTimer::singleShot(0, hpsedit.get(), [this] { hpsedit->close(); });
