@@ -1,7 +1,9 @@
 #include "preview/pages.h"
 
+#include "converter/host_names.h"
 #include "document/media.h"
 #include "document/page_file.h"
+#include "document/reading_failure.h"
 #include "document/tablist.h"
 #include "platform/codepage.h"
 #include "platform/folder_names.h"
@@ -10,7 +12,6 @@
 
 #include <algorithm>
 #include <array>
-#include <mutex>
 #include <set>
 #include <sys/stat.h>
 
@@ -34,15 +35,6 @@ constexpr MediaType mediaTypes[] = {
     {".ogg", "audio/ogg"},
 };
 
-// The look-up of names keeps a table of the folder.
-std::mutex namesMutex;
-
-fs::path named(const fs::path &folder, std::string_view name)
-{
-    const std::lock_guard lock(namesMutex);
-    return findName(folder, name);
-}
-
 bool plain(std::string_view name)
 {
     return !name.empty() && name.size() <= longestName && name.front() != '.' && plainFileName(name);
@@ -60,7 +52,7 @@ bool inside(const fs::path &folder, const fs::path &file)
 fs::path pageFile(const PageFolder &pages, const std::string &name)
 {
     for (const fs::path &folder : {pages.overlay, pages.folder}) {
-        const fs::path file = folder.empty() ? fs::path() : named(folder, name + ".ods");
+        const fs::path file = folder.empty() ? fs::path() : fileIn(folder, name + ".ods");
         if (!file.empty() && inside(folder, file))
             return file;
     }
@@ -69,11 +61,8 @@ fs::path pageFile(const PageFolder &pages, const std::string &name)
 
 std::string failureOf(const FileContent &content)
 {
-    if (content.tooLarge)
-        return "more than " + std::to_string(fileLimit) + " bytes";
-    if (!content.error.empty())
-        return toUtf8(content.error);
-    return content.bytes.empty() ? "the file is empty" : "";
+    const std::string failure = readingFailure(content);
+    return failure.empty() && !isPageFile(content.bytes) ? "not a page file" : failure;
 }
 
 // Names of the pages in a folder, without ".ods", in the order of their bytes.
@@ -174,7 +163,7 @@ std::optional<MediaFile> mediaFile(const PageFolder &pages, std::string_view add
         const std::optional<std::string> part = fromUtf8(address.substr(0, end));
         if (!part || !plain(*part) || depth >= deepestMedia)
             return std::nullopt;
-        file = named(file, *part);
+        file = fileIn(file, *part);
         address.remove_prefix(std::min(end + 1, address.size()));
     }
     if (!inside(pages.folder, file))
@@ -190,7 +179,7 @@ std::string pageStamp(const PageFolder &pages, const std::string &name)
     std::string stamps = fileStamp(pageFile(pages, name));
     for (const std::string &file : namedFiles(loadPage(pages, name).page))
         if (plain(file))
-            stamps += "," + fileStamp(named(pages.folder, file));
+            stamps += "," + fileStamp(fileIn(pages.folder, file));
     return std::to_string(std::hash<std::string>()(stamps));
 }
 

@@ -129,7 +129,20 @@ struct Assignments {
     std::string failure;
 };
 
-Assignments assignmentsOf(const Page &p, const std::vector<SqlColumn> &tableColumns, const ObjectValues &values)
+// Whether a field still shows what the row holds, line ends and the spelling of numbers apart.
+bool isUnchanged(const std::string &text, const std::string &name, const SqlColumn &column, const ShownRecord &record)
+{
+    const int place = columnPlace(record.columns, name);
+    if (place < 0)
+        return false;
+    const std::string before = record.row[static_cast<std::size_t>(place)].value_or(std::string());
+    return withLineFeeds(before) == withLineFeeds(text) ||
+           (sqlClass(column) == SqlClass::Number && plainNumber(before) == plainNumber(trimmed(text)));
+}
+
+// What the fields store; those of a record only where they differ from it.
+Assignments assignmentsOf(const Page &p, const std::vector<SqlColumn> &tableColumns, const ObjectValues &values,
+                          const ShownRecord *record)
 {
     Assignments assignments;
     for (const std::int16_t i : changingFields(p)) {
@@ -138,7 +151,8 @@ Assignments assignmentsOf(const Page &p, const std::vector<SqlColumn> &tableColu
             continue;
         const std::string name = columnName(objectAt(p, i).datacol);
         SqlParameter parameter{{}, columnOf(tableColumns, name), isPasswordField(p, i)};
-        parameter.column.name = toUtf8(name);
+        if (record && isUnchanged(*value, name, parameter.column, *record))
+            continue;
         const std::string failure = storedField(*value, parameter.column, parameter.value);
         if (!failure.empty()) {
             assignments.failure = toUtf8(name) + ": " + failure;
@@ -147,18 +161,6 @@ Assignments assignmentsOf(const Page &p, const std::vector<SqlColumn> &tableColu
         assignments.list.push_back({quotedName(name), std::move(parameter)});
     }
     return assignments;
-}
-
-bool isUnchanged(const Assignment &assignment, const ShownRecord &record)
-{
-    const int place = columnPlace(record.columns, fromUtf8Lossy(assignment.parameter.column.name));
-    if (place < 0)
-        return false;
-    const std::string before = record.row[static_cast<std::size_t>(place)].value_or(std::string());
-    const std::string after = assignment.parameter.value.value_or(std::string());
-    if (sqlClass(assignment.parameter.column) == SqlClass::Number)
-        return plainNumber(before) == plainNumber(after);
-    return withLineFeeds(before) == withLineFeeds(after);
 }
 
 // Adds " Where " and the update keys with the values of the row.
@@ -208,10 +210,9 @@ SqlStatement describingStatement(const Page &p)
 
 FilledStatement updateStatement(const Page &p, const ShownRecord &record, const ObjectValues &values)
 {
-    Assignments assignments = assignmentsOf(p, record.tableColumns, values);
+    const Assignments assignments = assignmentsOf(p, record.tableColumns, values, &record);
     FilledStatement filled;
     filled.failure = assignments.failure;
-    std::erase_if(assignments.list, [&](const Assignment &a) { return isUnchanged(a, record); });
     if (!filled.failure.empty() || assignments.list.empty())
         return filled;
     for (const Assignment &a : assignments.list) {
@@ -234,7 +235,7 @@ FilledStatement deleteStatement(const Page &p, const ShownRecord &record)
 
 FilledStatement insertStatement(const Page &p, const std::vector<SqlColumn> &tableColumns, const ObjectValues &values)
 {
-    Assignments assignments = assignmentsOf(p, tableColumns, values);
+    Assignments assignments = assignmentsOf(p, tableColumns, values, nullptr);
     std::erase_if(assignments.list, [](const Assignment &a) { return !a.parameter.value; });
     FilledStatement filled;
     filled.failure = assignments.failure;

@@ -69,19 +69,6 @@ private:
     std::string out;
     std::size_t at = 0;
     std::string lastTag, grid; // the id of the Grid that we are in
-    std::string fieldName;     // as it is written in the tag
-    bool hasValue = false;
-
-    // Numbers, dates and times.
-    void setValue()
-    {
-        for (const Spelling &s : texts) {
-            if (s.placeholder != "@" + fieldName + "@")
-                continue;
-            out += " value=\"" + escapedUtf8(s.value->value) + '"';
-            return;
-        }
-    }
 
     void copyTo(std::size_t end)
     {
@@ -141,12 +128,8 @@ private:
         nameEnd = std::min(nameEnd, html.size());
         lastTag = endTag ? std::string() : lowered(std::string_view(html).substr(at + 1, nameEnd - at - 1));
         copyTo(nameEnd);
-        fieldName.clear();
-        hasValue = false;
         while (at < html.size() && html[at] != '>')
             attribute();
-        if (lastTag == "input" && !hasValue)
-            setValue();
         copyTo(std::min(at + 1, html.size()));
         if (lastTag == "style" || lastTag == "script")
             copyTo(std::min(html.find("</" + lastTag, at), html.size()));
@@ -185,9 +168,6 @@ private:
         copyTo(at + 1);
         if (name == "id" && gridRows.contains(html.substr(at, end - at)))
             grid = html.substr(at, end - at);
-        if (name == "name")
-            fieldName = html.substr(at, end - at);
-        hasValue = hasValue || name == "value";
         if (isAddress(name))
             fillSpan(end, Context::AddressStart);
         else if (holdsText(name))

@@ -14,7 +14,7 @@ struct TemplateValue {
 
 // Fills placeholders in texts, in attributes that hold text and in addresses; values become neither markup nor an
 // address with a scheme of their own choice. Elsewhere placeholders stay. The rows (HTML) of a Grid's table body go
-// by the id of its element. An input that can hold no placeholder gets the value of the object that it is named after.
+// by the id of its element.
 std::string fillTemplate(const std::string &html, const std::vector<TemplateValue> &values,
                          const std::map<std::string, std::string> &gridRows);
 
