@@ -27,22 +27,28 @@ long parsed(const std::string &text, long fallback)
 
 const ObjectRecord &objectAt(const Page &p, std::int16_t index) { return p.objects[static_cast<std::size_t>(index)]; }
 
-// What the objects' placeholders stand for: what the visitor entered, else the row that the page shows.
-ObjectValues valuesOf(const UsedPage &used)
+// What the visitor entered, by object.
+ObjectValues enteredValues(const UsedPage &used)
 {
     const Page &p = used.loaded.page;
     const std::vector<std::string> names = fieldNames(p);
     ObjectValues values(p.objects.size());
-    for (std::int16_t i = 0; i < objectCount(p); ++i) {
-        std::optional<std::string> &value = values[static_cast<std::size_t>(i)];
-        const std::string &name = names[static_cast<std::size_t>(i)];
+    for (std::size_t i = 0; i < names.size(); ++i)
         for (const FormValue &v : used.request.form)
-            if (!name.empty() && v.name == name && !value)
-                value = v.value;
-        if (value || !used.result || used.row >= static_cast<long>(used.result->data.rows.size()))
-            continue;
-        const int place = columnPlace(used.result->data.columns, columnName(objectAt(p, i).datacol));
-        if (place >= 0)
+            if (!names[i].empty() && v.name == names[i] && !values[i])
+                values[i] = v.value;
+    return values;
+}
+
+// What the objects' placeholders stand for: what the visitor entered, else the row that the page shows.
+ObjectValues shownValues(const UsedPage &used, ObjectValues values)
+{
+    if (!used.result || used.row >= static_cast<long>(used.result->data.rows.size()))
+        return values;
+    for (std::int16_t i = 0; i < objectCount(used.loaded.page); ++i) {
+        const int place = columnPlace(used.result->data.columns, columnName(objectAt(used.loaded.page, i).datacol));
+        std::optional<std::string> &value = values[static_cast<std::size_t>(i)];
+        if (!value && place >= 0)
             value = used.result->data.rows[static_cast<std::size_t>(used.row)][static_cast<std::size_t>(place)];
     }
     return values;
@@ -52,7 +58,11 @@ ObjectValues valuesOf(const UsedPage &used)
 class ActionRunner {
 public:
     ActionRunner(HostParts &hostParts, const UsedPage &usedPage)
-        : parts(hostParts), used(usedPage), p(usedPage.loaded.page), values(valuesOf(usedPage))
+        : parts(hostParts),
+          used(usedPage),
+          p(usedPage.loaded.page),
+          entered(enteredValues(usedPage)),
+          values(shownValues(usedPage, entered))
     {
     }
 
@@ -72,7 +82,7 @@ private:
     HostParts &parts;
     const UsedPage &used;
     const Page &p;
-    ObjectValues values;
+    ObjectValues entered, values;
     std::string location;
     bool stopped = false;
     int count = 0;
@@ -292,7 +302,7 @@ private:
         const auto columns = row ? tableColumns() : std::nullopt;
         if (!columns)
             return;
-        const FilledStatement filled = updateStatement(p, {*columns, used.result->data.columns, *row}, values);
+        const FilledStatement filled = updateStatement(p, {*columns, used.result->data.columns, *row}, entered);
         if (filled.failure.empty() && filled.statement.text.empty())
             return note("No field differs from the record: there is nothing to update.");
         if (change(filled, 1))
@@ -310,7 +320,7 @@ private:
     void insert()
     {
         const auto columns = tableColumns();
-        if (columns && change(insertStatement(p, *columns, values), 1))
+        if (columns && change(insertStatement(p, *columns, entered), 1))
             refresh(used.row);
     }
 
