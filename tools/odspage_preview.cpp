@@ -43,7 +43,7 @@ void askForEnd(int)
 
 void watchSignals()
 {
-    if (pipe(endPipe) != 0)
+    if (pipe2(endPipe, O_CLOEXEC) != 0)
         return;
     struct sigaction end = {};
     end.sa_handler = askForEnd;
@@ -78,7 +78,7 @@ std::string findPages(const PreviewArguments &arguments, PageFolder &pages)
     else if (address.size() > 4 && sameText(address.substr(address.size() - 4), ".ods"))
         pages.start = address.substr(0, address.size() - 4);
     else
-        return "no page file (.ods)";
+        return fs::exists(target, error) ? "no page file (.ods)" : "no such page file or directory";
     if (pages.start.empty())
         return "no page files (.ods) here";
     return loadPage(pages, pages.start).missing ? "no such page file" : "";
