@@ -43,4 +43,21 @@ for page in "$work"/{data,samples,gallery}/*.ods; do
   "$programs/odsrender" "$page" "${page%.ods}.canvas.png" || true
 done
 mkdir -p "$work/pixels"
+# Other languages use the library as it is installed.
+cmake --install build/release --prefix "$work/usr" --component ods2hts >/dev/null
+cat >"$work/use.c" <<'C'
+#include <ods2hts.h>
+#include <stdio.h>
+int main(void)
+{
+    puts(ConvertOdsHts("no such page.ods") == 0 ? ConvertOdsHtsMessage() : "converted");
+    return 0;
+}
+C
+export PKG_CONFIG_PATH
+PKG_CONFIG_PATH=$(dirname "$(find "$work/usr" -name ods2hts.pc)")
+installed=(pkg-config --define-variable=prefix="$work/usr")
+gcc -std=c99 -pedantic -Wall -Werror "$work/use.c" -o "$work/use" $("${installed[@]}" --cflags --libs ods2hts)
+[ "$(LD_LIBRARY_PATH=$("${installed[@]}" --variable=libdir ods2hts) "$work/use")" = "no such file" ]
+
 (cd "$tools" && node check.mjs --canvas "${PIXELS:-$work/pixels}" "$@" "$work/data" "$work/samples" "$work/gallery")

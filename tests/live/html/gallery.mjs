@@ -77,7 +77,8 @@ function fieldObjects() {
     add('grid', {}, { ctlname: '' });
     add('image', undefined, { sptext: awkward, srcfile: 'a "b" c.bmp' });
     add('button', { Caption: awkward, balhelp: awkward }, { srcfile: '..\\x.bmp' });
-    add('animation', { nplay: 2, frozen: 1, frames: [{ top: 9, left: 9, duration: 0 }, { top: 5, left: 5, duration: 7 }] },
+    const place = object('animation', objects.length), frame = { top: place.ptop, left: place.pleft };
+    add('animation', { nplay: 2, frozen: 1, frames: [{ ...frame, duration: 3 }, { top: 5, left: 5, duration: 7 }] },
         { srcfile: 'a.bmp\ta.wav\tb.bmp\t', sptext: 'Lamp' });
     add('ticker', { Caption: awkward, font: font({ FontName: '"};x{', FontSize: 0 }) });
     add('label', { Caption: 'System', BackColor: -2147483643, font: font({ ForeColor: -2147483640 }) });
