@@ -71,9 +71,12 @@ double letterSize(const Page &p, std::int16_t index)
 // The distance of a label that may name an object.
 int labelDistance(const Page &p, std::int16_t label, std::int16_t index)
 {
+    const int d = distance(p, label, index);
+    if (d == farAway)
+        return farAway;
     const double letters = letterSize(p, label);
-    const int d = letters > letterSize(p, index) * headingSize ? farAway : distance(p, label, index);
-    return d <= 2 * letters * labelReach ? d : farAway;
+    const bool heading = letters > letterSize(p, index) * headingSize;
+    return !heading && d <= 2 * letters * labelReach ? d : farAway;
 }
 
 std::int16_t nearestOf(const std::vector<std::int16_t> &labels, const Page &p, std::int16_t index)

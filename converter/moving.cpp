@@ -9,15 +9,15 @@ namespace corvanta {
 
 namespace {
 
-constexpr double tick = 0.008; // seconds between two steps of a ticker, of so many pixels as its speed says
+constexpr int tick = 8; // milliseconds between two steps of a ticker, of so many pixels as its speed says
 
 // The text moves over a known distance, from behind the right edge until it has left at the other, so that its speed
 // does not depend on how wide it is.
 std::string journey(const ObjectRecord &o, const Element &e, std::int16_t speed)
 {
     const int distance = std::max(1, std::max<int>(o.pwidth, 0) + textWidth(e.font, cleanText(e.Caption)));
-    return "--way:-" + std::to_string(distance) +
-           "px;animation-duration:" + cssNumber(std::max(0.1, distance * tick / std::clamp<int>(speed, 1, 10))) + "s";
+    const int duration = std::max(1, distance * tick / std::clamp<int>(speed, 1, 10));
+    return "--way:-" + std::to_string(distance) + "px;animation-duration:" + std::to_string(duration) + "ms";
 }
 
 } // namespace

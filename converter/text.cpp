@@ -20,18 +20,6 @@ bool allowed(char byte)
     return !control && !privateUse;
 }
 
-std::string withLineFeeds(std::string_view bytes)
-{
-    std::string text;
-    for (std::size_t i = 0; i < bytes.size(); ++i) {
-        if (bytes[i] != '\r')
-            text += bytes[i];
-        else if (i + 1 == bytes.size() || bytes[i + 1] != '\n')
-            text += '\n';
-    }
-    return text;
-}
-
 // "&name;" or "&#number;" at the front of a text.
 bool isReference(std::string_view text)
 {
@@ -49,14 +37,24 @@ bool startsCharacter(char utf8) { return (static_cast<unsigned char>(utf8) & 0xC
 
 std::string cleanText(std::string_view bytes)
 {
-    std::string text = withLineFeeds(bytes);
-    std::erase_if(text, [](char byte) { return !allowed(byte); });
-    return toUtf8(text);
+    std::string text;
+    text.reserve(bytes.size());
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+        const char byte = bytes[i];
+        if (byte >= ' ' && byte < 0x7F) // most of them
+            text += byte;
+        else if (byte == '\r')
+            text += i + 1 == bytes.size() || bytes[i + 1] != '\n' ? "\n" : "";
+        else if (allowed(byte))
+            text += toUtf8(bytes.substr(i, 1));
+    }
+    return text;
 }
 
 std::string escapedUtf8(std::string_view utf8)
 {
     std::string html;
+    html.reserve(utf8.size());
     for (const char c : utf8) {
         switch (c) {
         case '&': html += "&amp;"; break;

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
 namespace corvanta {
 namespace {
 
@@ -149,6 +151,22 @@ TEST(ConverterMoving, AnAnimationStepsThroughItsFramesAndStaysOnTheLast)
     p.aniextras.back().frozen = 1;
     html = htmlTemplate(p);
     EXPECT_TRUE(holds(html, "#o0f2{left:0px;top:0px;animation:o0f2 2s step-end infinite;}"));
+}
+
+TEST(ConverterMoving, ATickersSpeedDoesNotDependOnItsText)
+{
+    const double pixelsPerSecond = 125;
+    for (const std::int16_t speed : {1, 4, 10})
+        for (const char *text : {"", "iiiiiiii", "WWWWWWWWWWWWWWWWWWWWWWWW"}) {
+            Page p;
+            addCaptioned(p, Kind::Ticker, text);
+            p.tkrextras[static_cast<std::size_t>(p.ctlindex[0])] = speed;
+            const std::string html = htmlTemplate(p);
+            const double way = std::atof(html.c_str() + html.find("--way:-") + 7);
+            const double seconds = std::atof(html.c_str() + html.find("animation-duration:") + 19) / 1000;
+            EXPECT_GE(way, 100);
+            EXPECT_NEAR(way / seconds, pixelsPerSecond * speed, pixelsPerSecond * speed * 0.03) << text;
+        }
 }
 
 TEST(ConverterTemplate, DocumentFollowsThePagesFields)

@@ -1,3 +1,0 @@
-#pragma once
-
-#include "document/reading_failure.h"
