@@ -157,7 +157,9 @@ std::string pageAddress(std::string_view pageName, const std::filesystem::path &
         name.resize(name.size() - 4);
     if (isBlank(name))
         name = "TOP";
-    const std::string page = foundIn(folder, name + ".ods");
+    std::string page = foundIn(folder, name + ".ods");
+    if (page.empty() && sameText(name, "TOP")) // the first page of an application, which is often its menu
+        page = foundIn(folder, "MENU.ods");
     return percentEncoded(page.empty() ? cleanText(name) + ".hts" : templateOf(page).string(), inName);
 }
 

@@ -17,7 +17,8 @@ std::optional<std::string> safeAddress(std::string_view address);
 std::string nameAlone(std::string_view path);
 
 // The template of a page that an action names: "MENU", "MENU.hts" and "C:\PAGES\MENU.ODS" give "MENU.hts". With the
-// host folder of the page: the template of the page file that stands there, in its spelling.
+// host folder of the page: the template of the page file that stands there, in its spelling; for "TOP" also that of
+// "MENU".
 std::string pageAddress(std::string_view pageName, const std::filesystem::path &folder = {});
 
 // A file of the page directory: directories in the name are left out. With the page's host folder: in the spelling of

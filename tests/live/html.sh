@@ -43,6 +43,9 @@ for page in "$work"/{data,samples,gallery}/*.ods; do
   "$programs/odsrender" "$page" "${page%.ods}.canvas.png" || true
 done
 mkdir -p "$work/pixels"
+# Every link of the samples leads to a file in exactly this spelling.
+(cd "$work/samples" && grep -ohE '(href|src)="[^":@]+"' *.hts | cut -d'"' -f2 | sort -u | xargs -n1 ls >/dev/null)
+
 # Other languages use the library as it is installed.
 cmake --install build/release --prefix "$work/usr" --component ods2hts >/dev/null
 cat >"$work/use.c" <<'C'

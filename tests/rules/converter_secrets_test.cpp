@@ -198,10 +198,12 @@ TEST(ConverterFile, LinksHaveTheSpellingOfTheFilesBesideThePage)
     recordAt(p, addTo(p, Kind::HotSpot)).actlist = encodeAction({action::goToPage, {"MENU"}});
     recordAt(p, addTo(p, Kind::HotSpot)).actlist = encodeAction({action::goToPage, {"menu.ods"}});
     recordAt(p, addTo(p, Kind::Image)).srcfile = "logo.bmp";
+    recordAt(p, addTo(p, Kind::HotSpot)).actlist = encodeAction({action::goToPage, {""}});
     const std::string html = htmlTemplate(p, drive.root());
     EXPECT_TRUE(holds(elementLine(html, 0), "href=\"Menu.hts\""));
     EXPECT_TRUE(holds(elementLine(html, 1), "href=\"Menu.hts\""));
     EXPECT_TRUE(holds(elementLine(html, 2), "src=\"Logo.BMP\""));
+    EXPECT_TRUE(holds(elementLine(html, 3), "href=\"Menu.hts\""));
 }
 
 TEST(ConverterFile, ALibraryCallStartsFromTheDirectoryOfThatMoment)
