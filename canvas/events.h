@@ -20,6 +20,9 @@ struct CanvasEvents {
     Event<> hideOutline;
     Event<const Rect &> showGroupFrame; // also moves a frame that is shown
     Event<> hideGroupFrame;
+    Event<const Rect &> drawBand; // also moves a rubber band that is shown
+    Event<> hideBand;
+    Event<bool> tabOrder;              // whether tab numbers are shown; again after each new number
     Event<std::int16_t> emptyVisual;   // show a List Box or Text Box without its content
     Event<std::int16_t> restoreVisual; // show the content again
 };

@@ -1,6 +1,7 @@
 #include "canvas/geometry.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <limits>
 
 namespace corvanta {
@@ -61,6 +62,11 @@ Rect united(const Rect &a, const Rect &b)
 {
     const int left = std::min(a.left, b.left), top = std::min(a.top, b.top);
     return {left, top, std::max(a.right(), b.right()) - left, std::max(a.bottom(), b.bottom()) - top};
+}
+
+Rect spanned(Point a, Point b)
+{
+    return {std::min(a.x, b.x), std::min(a.y, b.y), std::abs(a.x - b.x), std::abs(a.y - b.y)};
 }
 
 Rect movedBy(const Rect &r, int dx, int dy) { return {r.left + dx, r.top + dy, r.width, r.height}; }

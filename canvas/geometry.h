@@ -27,6 +27,7 @@ struct Rect {
 
 bool intersects(const Rect &a, const Rect &b);
 Rect united(const Rect &a, const Rect &b);
+Rect spanned(Point a, Point b); // with the points as corners
 Rect movedBy(const Rect &r, int dx, int dy);
 
 Rect rectOf(const ObjectRecord &object);

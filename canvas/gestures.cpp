@@ -51,6 +51,8 @@ void emptyPressedObject()
 void endGesture()
 {
     hideOutline();
+    if (state.banding)
+        canvasEvents().hideBand();
     const Gesture ended = state;
     state = {};
     state.ctrlclick = ended.ctrlclick;
@@ -71,6 +73,36 @@ void beginDrag(std::int16_t index, Point at)
     state.group = inMultiSelection(index);
     state.multbox = membersBounds(rectOf(record(index)));
     state.groupOrigin = {state.multbox.left, state.multbox.top};
+}
+
+void beginBand(Point at)
+{
+    state.banding = true;
+    state.pressPoint = clampedPoint(at, sizeOf(page()));
+}
+
+void moveBand(Point at)
+{
+    state.band = spanned(state.pressPoint, clampedPoint(at, sizeOf(page())));
+    state.moved = state.moved || state.band.width >= smallestSide || state.band.height >= smallestSide;
+    if (state.moved)
+        canvasEvents().drawBand(state.band);
+}
+
+void selectInBand(const Rect &band, bool touched)
+{
+    clearMultiSelection();
+    std::int16_t first = noObject;
+    for (std::int16_t i = 0; i < objectCount(page()); ++i) {
+        const Rect r = rectOf(record(i));
+        if (touched ? !intersects(band, r) : united(band, r) != band)
+            continue;
+        addToMultiSelection(i);
+        if (first == noObject)
+            first = i;
+    }
+    hideTrackers();
+    setCurrentObject(first);
 }
 
 void outlineTo(const Rect &r)
@@ -131,20 +163,41 @@ Rect aligned(Rect member, const Rect &reference, AlignMode mode)
 
 const Gesture &gesture() { return state; }
 
+bool gestureActive() { return state.dragging || state.resizing || state.banding; }
+
+std::string gestureText()
+{
+    const Rect &r = state.outline;
+    if (state.group)
+        return "Moved by " + std::to_string(state.multbox.left - state.groupOrigin.x) + ", " +
+               std::to_string(state.multbox.top - state.groupOrigin.y);
+    return "Left " + std::to_string(r.left) + ", top " + std::to_string(r.top) + ", width " + std::to_string(r.width) +
+           ", height " + std::to_string(r.height);
+}
+
 void pressObject(std::int16_t index, const Mouse &mouse)
 {
+    const bool onPage = !hasObject(page(), index);
+    if (mouse.left && onPage && mouse.shift && !mouse.ctrl && !mouse.alt) {
+        endGesture();
+        beginBand(mouse.at);
+    }
     if (!mouse.left || !unmodified(mouse))
         return;
     endGesture();
     selectObject(index);
-    if (hasObject(page(), index))
+    if (onPage)
+        beginBand(mouse.at);
+    else
         beginDrag(index, mouse.at);
 }
 
 void moveObject(const Mouse &mouse)
 {
-    if (state.dragging && !mouse.left) // its release went elsewhere
+    if ((state.dragging || state.banding) && !mouse.left) // its release went elsewhere
         cancelGesture();
+    if (state.banding)
+        return moveBand(mouse.at);
     if (!state.dragging || mouse.otherButton || !unmodified(mouse))
         return;
     const Point at = inObject(mouse.at);
@@ -166,9 +219,14 @@ void releaseObject(std::int16_t index, const Mouse &mouse)
     state.ctrlclick = mouse.ctrl;
     if (!mouse.left)
         return;
-    if (unmodified(mouse) && state.dragging) {
+    if (state.banding && state.moved) {
+        const Rect band = state.band;
+        endGesture();
+        selectInBand(band, mouse.shift);
+    } else if (unmodified(mouse) && state.dragging) {
         drop();
     } else if (unmodified(mouse)) {
+        endGesture();
         clearMultiSelection();
         showTrackers();
     } else if (mouse.ctrl && hasObject(page(), index)) {
@@ -219,7 +277,7 @@ void releaseHandle(const Mouse &mouse)
 bool cancelGesture()
 {
     const bool wasDragging = state.dragging;
-    const bool any = wasDragging || state.resizing;
+    const bool any = gestureActive();
     endGesture();
     if (wasDragging && !inMultiSelection(editing().curobj))
         showTrackers();

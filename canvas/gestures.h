@@ -3,6 +3,8 @@
 #include "canvas/events.h"
 #include "document/objects.h"
 
+#include <string>
+
 // Moving and resizing with the mouse on the process-wide page: press, move, release, cancel. The objects
 // stay where they are until the release; only the outline moves.
 namespace corvanta {
@@ -17,6 +19,7 @@ struct Mouse {
 struct Gesture {
     bool dragging = false;           // a move drag is in progress
     bool resizing = false;           // a handle is held
+    bool banding = false;            // a rubber band is drawn on the empty page
     bool ctrlclick = false;          // Ctrl was held at the last release on an object or the page
     std::int16_t object = noObject;  // the pressed object
     Handle handle = Handle::TopLeft; // the pressed handle
@@ -25,6 +28,7 @@ struct Gesture {
     bool moved = false;              // the mouse has moved since the press
     bool outlineShown = false;
     Rect outline;
+    Rect band;
     bool group = false;       // the whole multi-selection moves
     Rect multbox;             // the members' bounding rectangle, displaced
     Point groupOrigin;        // of multbox at the press
@@ -32,8 +36,12 @@ struct Gesture {
 };
 
 const Gesture &gesture();
+bool gestureActive(); // one is in progress
+// What the outline will do, for the status panel: the object's place and size, or the way of a group.
+std::string gestureText();
 
-// Press on an object, or on the empty page (noObject). A plain left press selects and begins a move drag.
+// Press on an object, or on the empty page (noObject). A plain left press selects and begins a move drag, on the empty
+// page a rubber band, which Shift begins too: at its release what it encloses, with Shift what it touches, is selected.
 void pressObject(std::int16_t index, const Mouse &mouse);
 void moveObject(const Mouse &mouse);
 // Release over an object, or over the empty page (noObject).

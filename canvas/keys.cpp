@@ -2,11 +2,14 @@
 
 #include "canvas/gestures.h"
 #include "canvas/selection.h"
+#include "canvas/tab_order.h"
 
 namespace corvanta {
 
 CanvasCommand keyDownCommand(int key, const KeyModifiers &held)
 {
+    if (key == tabKey && !held.alt && !held.ctrl && objectCount(page()) > 0 && !gestureActive())
+        return held.shift ? CanvasCommand::FormerObject : CanvasCommand::NextObject;
     if (!held.alt || held.ctrl || held.shift)
         return CanvasCommand::None;
     switch (key) {
@@ -21,14 +24,16 @@ CanvasCommand keyDownCommand(int key, const KeyModifiers &held)
 
 CanvasCommand keyUpCommand(int key)
 {
-    const bool idle = !gesture().dragging && !gesture().resizing;
-    return key == deleteKey && hasCurrentObject() && idle ? CanvasCommand::Delete : CanvasCommand::None;
+    return key == deleteKey && hasCurrentObject() && !gestureActive() ? CanvasCommand::Delete : CanvasCommand::None;
 }
 
 CanvasCommand keyPressCommand(int character)
 {
-    const bool busy = gesture().dragging || gesture().resizing;
-    return character == escapeCharacter && busy ? CanvasCommand::Cancel : CanvasCommand::None;
+    if (character != escapeCharacter)
+        return CanvasCommand::None;
+    if (gestureActive() || tabOrderActive())
+        return CanvasCommand::Cancel;
+    return hasCurrentObject() || hasMembers() ? CanvasCommand::ClearSelection : CanvasCommand::None;
 }
 
 } // namespace corvanta

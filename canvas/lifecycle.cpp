@@ -3,6 +3,7 @@
 #include "canvas/gestures.h"
 #include "canvas/running.h"
 #include "canvas/selection.h"
+#include "canvas/tab_order.h"
 
 #include <algorithm>
 
@@ -26,6 +27,7 @@ void mouseTaken()
 void objectLeavesCanvas(std::int16_t index)
 {
     mouseTaken();
+    dropTabOrder();
     if (inMultiSelection(index)) {
         removeFromMultiSelection(index);
         if (!hasMembers())
@@ -37,6 +39,7 @@ void objectLeavesCanvas(std::int16_t index)
 void resetCanvas()
 {
     mouseTaken();
+    dropTabOrder();
     clearMultiSelection();
     selectObject(noObject);
     clearRunning();

@@ -12,6 +12,15 @@ int sideFor(int side, int fitted, bool viewStays, int shown)
     return scrolls || viewStays || shown <= 0 ? side : shown;
 }
 
+constexpr int border = 12, fastest = 32; // pixels
+
+int stepAlong(int at, int extent)
+{
+    if (at < border)
+        return -std::min(border - at, fastest);
+    return at >= extent - border ? std::min(at - (extent - border) + 1, fastest) : 0;
+}
+
 } // namespace
 
 Size barsFor(Size page, Size view, int bar)
@@ -38,6 +47,11 @@ Size pageSizeFor(Size page, Size fitted, Size viewBefore, Size view, int bar)
         shown = {view.width - bars.width, view.height - bars.height};
     }
     return after;
+}
+
+Point scrollStep(Point pointer, Size view)
+{
+    return {stepAlong(pointer.x, view.width), stepAlong(pointer.y, view.height)};
 }
 
 } // namespace corvanta

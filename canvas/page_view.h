@@ -17,4 +17,7 @@ Size viewOf(Size page, Size room, int bar);
 // view that stays changes none of the page, and a bar's width never becomes the page's.
 Size pageSizeFor(Size page, Size fitted, Size viewBefore, Size view, int bar);
 
+// How far to scroll at once while the pointer is held at a border of a view or beyond it: the further, the faster.
+Point scrollStep(Point pointer, Size view);
+
 } // namespace corvanta

@@ -1,6 +1,10 @@
 #include "canvas/selection.h"
 
+#include "canvas/tab_order.h"
+
 #include <algorithm>
+#include <numeric>
+#include <utility>
 #include <vector>
 
 namespace corvanta {
@@ -81,6 +85,31 @@ void selectAllObjects()
         addToMultiSelection(i);
     if (!hasCurrentObject())
         setCurrentObject(0);
+}
+
+void clearSelection()
+{
+    clearMultiSelection();
+    selectObject(noObject);
+}
+
+void walkObjects(bool forward)
+{
+    std::vector<std::int16_t> order(page().objects.size() - 1);
+    std::iota(order.begin(), order.end(), std::int16_t{0});
+    if (order.empty())
+        return;
+    std::ranges::stable_sort(order, {}, [](std::int16_t i) {
+        const bool numbered = hasTabNumber(i) && record(i).tbindex > 0;
+        return std::pair(!numbered, numbered ? record(i).tbindex : 0);
+    });
+    if (!forward)
+        std::ranges::reverse(order);
+    const auto now = std::ranges::find(order, editing().curobj);
+    const bool last = now == order.end() || now + 1 == order.end();
+    clearMultiSelection();
+    selectObject(last ? order.front() : *(now + 1));
+    showTrackers();
 }
 
 void placeFrameMarkers(std::int16_t index)

@@ -27,6 +27,11 @@ void clearMultiSelection();
 // All objects become the multi-selection; the first is current when none was.
 void selectAllObjects();
 
+// No object is current, and none is in the multi-selection.
+void clearSelection();
+// Makes the next or the former object current: in the order of the tab numbers, then of the table, round the end.
+void walkObjects(bool forward);
+
 // The markers of a member round its rectangle.
 void placeFrameMarkers(std::int16_t index);
 void hideFrameMarkers(std::int16_t index);

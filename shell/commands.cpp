@@ -2,6 +2,7 @@
 
 #include "canvas/gestures.h"
 #include "canvas/selection.h"
+#include "canvas/tab_order.h"
 #include "document/events.h"
 #include "document/history.h"
 #include "document/kinds.h"
@@ -164,6 +165,7 @@ bool commandEnabled(Command command)
     case Command::SendToBack: return !chosenObjects().empty();
     case Command::Paste: return mayPaste();
     case Command::SelectAll: return state.list;
+    case Command::TabOrder: return hasTabNumbers();
     case Command::SharedProperties: return rooms.openSharedProperties && chosenObjects().size() > 1;
     case Command::AddKind: return true;
     }
@@ -191,6 +193,7 @@ bool commandChecked(Command command)
 
 void runCommand(Command command)
 {
+    endTabOrder(); // an act of its own
     const RoomCommands &rooms = roomCommands();
     switch (command) {
     case Command::None:
@@ -229,6 +232,7 @@ void runCommand(Command command)
     case Command::Paste: pasteObjects(); break;
     case Command::DuplicateObjects: duplicateObjects(); break;
     case Command::SelectAll: selectAllObjects(); break;
+    case Command::TabOrder: startTabOrder(); break;
     case Command::SharedProperties: tell(rooms.openSharedProperties); break;
     case Command::BringToFront: restack(true); break;
     case Command::SendToBack: restack(false); break;

@@ -64,6 +64,7 @@ constexpr MenuRow contextRows[] = {
     {"cright", "Right", 0, Command::AlignRight, "calign"},
     {"ctop", "Top", 0, Command::AlignTop, "calign"},
     {"cbottom", "Bottom", 0, Command::AlignBottom, "calign"},
+    {"ctaborder", "Ta&b Order", 0, Command::TabOrder, ""},
     {"cdash3", "-", 0, Command::None, ""},
     {"cadd", "&Add", 0, Command::AddKind, ""},
     {"cload", "L&oad...", 0, Command::LoadObject, ""},

@@ -42,6 +42,7 @@ enum class Command {
     Paste,
     DuplicateObjects,
     SelectAll,
+    TabOrder,         // numbering by clicking
     SharedProperties, // of two objects or more
     BringToFront,
     SendToBack,

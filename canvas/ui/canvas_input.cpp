@@ -3,11 +3,13 @@
 #include "canvas/lifecycle.h"
 #include "canvas/running.h"
 #include "canvas/selection.h"
+#include "canvas/tab_order.h"
 #include "canvas/ui/visual.h"
 #include "document/objects.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 #include <utility>
@@ -36,9 +38,13 @@ int keyCode(const QKeyEvent &event)
     case Qt::Key_Enter: return enterKey;
     case Qt::Key_Delete: return deleteKey;
     case Qt::Key_Escape: return escapeCharacter;
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab: return tabKey;
     default: return event.key() >= Qt::Key_A && event.key() <= Qt::Key_Z ? event.key() : 0;
     }
 }
+
+bool isTab(const QKeyEvent &event) { return event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab; }
 
 bool isKind(std::int16_t index, Kind kind)
 {
@@ -69,6 +75,9 @@ bool CanvasInput::eventFilter(QObject *watched, QEvent *event)
     case QEvent::MouseButtonRelease:
     case QEvent::MouseButtonDblClick:
         return mouseEvent(static_cast<QWidget &>(*watched), static_cast<const QMouseEvent &>(*event));
+    case QEvent::KeyPress: // before the keyboard focus moves on
+        return watched == &pageArea && isTab(static_cast<const QKeyEvent &>(*event)) &&
+               keyDown(static_cast<const QKeyEvent &>(*event));
     case QEvent::Leave:
         if (pointed)
             pointed(noObject);
@@ -89,6 +98,7 @@ bool CanvasInput::eventFilter(QObject *watched, QEvent *event)
 void CanvasInput::loseMouseAndKeys()
 {
     mouseTaken();
+    endTabOrder();
     deleteHeld = false;
 }
 
@@ -105,6 +115,11 @@ bool CanvasInput::mouseEvent(QWidget &widget, const QMouseEvent &event)
     const QPoint at = widget.mapTo(&pageArea, event.position().toPoint());
     const Mouse mouse = mouseOf(event, at);
     const auto &boxes = trackers.handles();
+    if (tabOrderActive()) {
+        if (event.type() == QEvent::MouseButtonPress && mouse.left)
+            numberObject(objectAt(widget, at));
+        return true;
+    }
     const auto box = std::find(boxes.begin(), boxes.end(), &widget);
     if (box != boxes.end())
         return handleEvent(static_cast<Handle>(box - boxes.begin()), event, mouse);
@@ -112,7 +127,7 @@ bool CanvasInput::mouseEvent(QWidget &widget, const QMouseEvent &event)
     switch (event.type()) {
     case QEvent::MouseButtonPress: press(index, event, mouse); break;
     case QEvent::MouseMove:
-        moveObject(mouse);
+        moved(event, mouse);
         if (pointed)
             pointed(index);
         break;
@@ -123,12 +138,30 @@ bool CanvasInput::mouseEvent(QWidget &widget, const QMouseEvent &event)
     return true;
 }
 
+void CanvasInput::moved(const QMouseEvent &event, const Mouse &mouse)
+{
+    lastMove = mouse;
+    lastPointer = event.globalPosition().toPoint();
+    gesture().resizing ? moveHandle(mouse) : moveObject(mouse);
+    if (gestureActive() && dragged)
+        dragged(lastPointer);
+}
+
+void CanvasInput::repeatMove()
+{
+    if (!gestureActive())
+        return;
+    const QPoint at = pageArea.mapFromGlobal(lastPointer);
+    lastMove.at = {at.x(), at.y()};
+    gesture().resizing ? moveHandle(lastMove) : moveObject(lastMove);
+}
+
 bool CanvasInput::handleEvent(Handle handle, const QMouseEvent &event, const Mouse &mouse)
 {
     switch (event.type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick: pressHandle(handle, mouse); break;
-    case QEvent::MouseMove: moveHandle(mouse); break;
+    case QEvent::MouseMove: moved(event, mouse); break;
     case QEvent::MouseButtonRelease: releaseHandle(mouse); break;
     default: break;
     }
@@ -140,6 +173,7 @@ void CanvasInput::press(std::int16_t index, const QMouseEvent &event, const Mous
     pageArea.setFocus(Qt::MouseFocusReason);
     if (isKind(index, Kind::Ticker))
         pressTicker(event.button());
+    const QScopedValueRollback press(inPress, true);
     pressObject(index, mouse);
 }
 
@@ -217,7 +251,13 @@ bool CanvasInput::run(CanvasCommand command)
         if (commands.deleteCurrent)
             commands.deleteCurrent();
         return true;
-    case CanvasCommand::Cancel: cancelGesture(); return true;
+    case CanvasCommand::Cancel:
+        if (!cancelGesture())
+            endTabOrder();
+        return true;
+    case CanvasCommand::ClearSelection: clearSelection(); return true;
+    case CanvasCommand::NextObject: walkObjects(true); return true;
+    case CanvasCommand::FormerObject: walkObjects(false); return true;
     case CanvasCommand::FileMenu: return openMenu('F');
     case CanvasCommand::PageMenu: return openMenu('P');
     case CanvasCommand::ObjectMenu: return openMenu('O');

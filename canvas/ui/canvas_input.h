@@ -39,14 +39,21 @@ public:
     bool keyDown(const QKeyEvent &event);
     bool keyUp(const QKeyEvent &event);
 
+    // The mouse's last move once more, after the page has scrolled under it.
+    void repeatMove();
+    bool pressing() const { return inPress; } // a mouse button goes down
+
     // The object under the pointer has changed; noObject for none.
     std::function<void(std::int16_t)> pointed;
+    // A gesture goes on with the pointer at a point of the screen.
+    std::function<void(QPoint)> dragged;
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     bool mouseEvent(QWidget &widget, const QMouseEvent &event);
+    void moved(const QMouseEvent &event, const Mouse &mouse);
     bool handleEvent(Handle handle, const QMouseEvent &event, const Mouse &mouse);
     void loseMouseAndKeys();
     void press(std::int16_t index, const QMouseEvent &event, const Mouse &mouse);
@@ -63,6 +70,9 @@ private:
     ClickCounter clicks;
     QTimer tmdclk;
     bool deleteHeld = false; // Delete went down on the canvas
+    bool inPress = false;
+    Mouse lastMove;
+    QPoint lastPointer; // on the screen
 };
 
 } // namespace corvanta

@@ -22,6 +22,7 @@ namespace corvanta {
 
 namespace {
 
+constexpr int scrollInterval = 25; // milliseconds
 constexpr QSize usualBorder(8, 40);
 constexpr QSize smallestPage(48, 24);
 
@@ -42,6 +43,7 @@ Editform::Editform()
       area(new PageArea(scroller)),
       statusPanel(new StatusPanel(this)),
       trackers(*area),
+      badges(new TabBadges(*area)),
       visuals(*area, trackers.ceiling()),
       input(*area, trackers, commands),
       objtimer(this)
@@ -51,6 +53,13 @@ Editform::Editform()
     setMinimumSize(smallestPage + QSize(0, toolbar->height() + statusPanel->height()));
     statusPanel->clicked = [this] { tell(commands.statusClicked); };
     area->dropped = [this](QPoint at, const DragPayload &payload) { drop(at, payload); };
+    scrolling.setInterval(scrollInterval);
+    connect(&scrolling, &QTimer::timeout, this, [this] { scrollOn(); });
+    input.dragged = [this](QPoint at) {
+        pointer = at;
+        if (!scrolling.isActive())
+            scrolling.start();
+    };
     input.pointed = [this](std::int16_t index) { showStatus(index); };
     editing().msgflag = true;
     listenToDocument();

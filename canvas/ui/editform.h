@@ -3,6 +3,7 @@
 #include "canvas/ui/canvas_input.h"
 #include "canvas/ui/page_area.h"
 #include "canvas/ui/panels.h"
+#include "canvas/ui/tab_badges.h"
 #include "canvas/ui/trackers.h"
 #include "canvas/ui/visuals.h"
 #include "platform/event.h"
@@ -64,6 +65,10 @@ private:
     void createVisual(std::int16_t index);
     void objectChanged(std::int16_t index);
     void pageRestored(const Page &before);
+    void takeFocus();
+    void scrollOn();
+    void showReference();
+    void scrollToCurrent();
     void drop(QPoint at, const DragPayload &payload);
     void showStatus(std::int16_t pointed);
 
@@ -72,10 +77,13 @@ private:
     PageArea *area;
     StatusPanel *statusPanel;
     Trackers trackers;
+    TabBadges *badges;
     Visuals visuals;
     CanvasInput input;
     EventConnections connections; // to the document, the rules of the canvas and what runs
     QTimer objtimer;
+    QTimer scrolling;       // runs while a gesture is held at the border of a page that scrolls
+    QPoint pointer;         // of that gesture, on the screen
     QList<QSize> asked;     // sizes that the window system may still answer with, in the order of asking
     Size fitted;            // the part of the page that the window showed when it took the page's size
     bool inLayout = false;  // resizes are of the program's making

@@ -1,13 +1,17 @@
 #include "canvas/lifecycle.h"
+#include "canvas/page_view.h"
 #include "canvas/player.h"
 #include "canvas/running.h"
 #include "canvas/selection.h"
+#include "canvas/tab_order.h"
 #include "canvas/ui/drop.h"
 #include "canvas/ui/editform.h"
 #include "document/events.h"
 #include "platform/qt/text.h"
 
 #include <QContextMenuEvent>
+#include <QScrollArea>
+#include <QScrollBar>
 
 #include <tuple>
 
@@ -72,15 +76,34 @@ void Editform::listenToCanvas()
     connections.add(events.bringToFront, [this](std::int16_t index) { visuals.raise(index); });
     connections.add(events.currentChanged, [this] {
         showStatus(noObject);
+        showReference();
+        if (!input.pressing()) // what is pressed is in sight, and stays where it is
+            scrollToCurrent();
         tell(commands.currentChanged);
     });
     connections.add(events.showTrackers, [this](const Rect &r) { trackers.showHandles(r); });
     connections.add(events.hideTrackers, [this] { trackers.hideHandles(); });
-    connections.add(events.placeFrameMarkers,
-                    [this](std::int16_t slot, const Rect &r) { trackers.placeMarkers(slot, r); });
+    connections.add(events.placeFrameMarkers, [this](std::int16_t slot, const Rect &r) {
+        trackers.placeMarkers(slot, r);
+        showReference();
+    });
     connections.add(events.hideFrameMarkers, [this](std::int16_t slot) { trackers.hideMarkers(slot); });
-    connections.add(events.drawOutline, [this](const Rect &r) { trackers.drawOutline(r); });
-    connections.add(events.hideOutline, [this] { trackers.hideOutline(); });
+    connections.add(events.drawOutline, [this](const Rect &r) {
+        trackers.drawOutline(r);
+        showStatus(noObject);
+    });
+    connections.add(events.hideOutline, [this] {
+        trackers.hideOutline();
+        showStatus(noObject);
+    });
+    connections.add(events.drawBand, [this](const Rect &r) { trackers.drawBand(r); });
+    connections.add(events.hideBand, [this] { trackers.hideBand(); });
+    connections.add(events.tabOrder, [this](bool shown) {
+        if (shown)
+            takeFocus();
+        badges->showNumbers(shown);
+        showStatus(noObject);
+    });
     connections.add(events.showGroupFrame, [this](const Rect &r) { trackers.showGroupFrame(r); });
     connections.add(events.hideGroupFrame, [this] { trackers.hideGroupFrame(); });
     connections.add(events.emptyVisual, [this](std::int16_t index) {
@@ -133,6 +156,7 @@ void Editform::pageRestored(const Page &before)
         return std::tie(p.bkgcol, p.bkght, p.bkgwd, p.pgflags, p.pgcaption, p.background);
     };
     mouseTaken();
+    dropTabOrder();
     trackers.hideAll();
     stopRunningWithoutObjects();
     visuals.follow(before, [this](std::int16_t index) { createVisual(index); });
@@ -158,7 +182,8 @@ void Editform::objectChanged(std::int16_t index)
 
 void Editform::drop(QPoint at, const DragPayload &payload)
 {
-    activateWindow(); // its keys go to the new object
+    endTabOrder();
+    takeFocus(); // the keys go to the new object
     const auto kind = kindOf(payload.payload.toShort());
     if (payload.tag == "obj" && kind)
         dropObject(*kind, {at.x(), at.y()});
@@ -169,6 +194,7 @@ void Editform::drop(QPoint at, const DragPayload &payload)
 // By the keyboard it is about the current object.
 void Editform::contextMenuEvent(QContextMenuEvent *event)
 {
+    endTabOrder();
     std::int16_t index = editing().curobj;
     QPoint at = area->mapFromGlobal(event->globalPos());
     if (event->reason() == QContextMenuEvent::Keyboard) {
@@ -183,9 +209,47 @@ void Editform::contextMenuEvent(QContextMenuEvent *event)
     tell(commands.contextMenu, index, at, area->mapToGlobal(at));
 }
 
-// The status text of the object under the pointer, else of the current object.
+void Editform::takeFocus()
+{
+    activateWindow();
+    area->setFocus();
+}
+
+void Editform::scrollOn()
+{
+    QWidget &view = *scroller->viewport();
+    const QPoint at = view.mapFromGlobal(pointer);
+    const Point step = scrollStep({at.x(), at.y()}, {view.width(), view.height()});
+    if (!gestureActive() || step == Point{})
+        return scrolling.stop();
+    scroller->horizontalScrollBar()->setValue(scroller->horizontalScrollBar()->value() + step.x);
+    scroller->verticalScrollBar()->setValue(scroller->verticalScrollBar()->value() + step.y);
+    input.repeatMove();
+}
+
+void Editform::showReference()
+{
+    const bool current = hasCurrentObject();
+    trackers.showReference(current ? page().objects[static_cast<std::size_t>(editing().curobj)].selslot : 0);
+}
+
+// All of it where there is room, else its top left corner.
+void Editform::scrollToCurrent()
+{
+    if (!hasCurrentObject() || gestureActive())
+        return;
+    const Rect r = rectOf(page().objects[static_cast<std::size_t>(editing().curobj)]);
+    scroller->ensureVisible(r.right(), r.bottom(), handleSize, handleSize);
+    scroller->ensureVisible(r.left, r.top, handleSize, handleSize);
+}
+
+// What a gesture does, else the status text of the object under the pointer, else of the current object.
 void Editform::showStatus(std::int16_t pointed)
 {
+    if (tabOrderActive())
+        return statusPanel->setStatus(toQString(tabOrderText()));
+    if (gesture().outlineShown)
+        return statusPanel->setStatus(toQString(gestureText()));
     const std::int16_t index = pointed == noObject ? editing().curobj : pointed;
     statusPanel->setStatus(hasObject(page(), index) ? toQString(page().objects[static_cast<std::size_t>(index)].sptext)
                                                     : QString());

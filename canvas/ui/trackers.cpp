@@ -10,7 +10,8 @@ namespace corvanta {
 
 namespace {
 
-const QColor handleColour(0x00, 0x30, 0x90), markerColour(0xB0, 0x48, 0x00), outlineColour(0xD0, 0x10, 0x20);
+const QColor handleColour(0x00, 0x30, 0x90), markerColour(0xB0, 0x48, 0x00), outlineColour(0xD0, 0x10, 0x20),
+    referenceColour(0x00, 0x80, 0x40), bandColour(0x20, 0x60, 0xC0);
 
 Qt::CursorShape cursorOf(PointerShape shape)
 {
@@ -51,6 +52,28 @@ QWidget *newGroupFrame(QWidget &area)
     return frame;
 }
 
+// A tinted area with a border, which lets through what lies below.
+class Band : public QWidget {
+public:
+    explicit Band(QWidget &area) : QWidget(&area)
+    {
+        setObjectName(QStringLiteral("rubberband"));
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        hide();
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        QColor tint = bandColour;
+        tint.setAlpha(40);
+        painter.fillRect(rect(), tint);
+        painter.setPen(bandColour);
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+};
+
 void place(HandleBox *const *boxes, const Rect &object)
 {
     const auto corners = trackerPositions(object);
@@ -69,6 +92,14 @@ HandleBox::HandleBox(QWidget &pageArea, const QString &name, const QColor &colou
     hide();
 }
 
+void HandleBox::setColour(const QColor &colour)
+{
+    if (edge == colour)
+        return;
+    edge = colour;
+    update();
+}
+
 void HandleBox::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
@@ -76,7 +107,7 @@ void HandleBox::paintEvent(QPaintEvent *)
     painter.fillRect(rect().adjusted(1, 1, -1, -1), Qt::white);
 }
 
-Trackers::Trackers(QWidget &area) : pageArea(area), multbox(newGroupFrame(area))
+Trackers::Trackers(QWidget &area) : pageArea(area), multbox(newGroupFrame(area)), band(new Band(area))
 {
     for (int i = 0; i < handleCount; ++i) {
         auto *box = new HandleBox(area, QStringLiteral("trbox%1").arg(i), handleColour);
@@ -118,6 +149,24 @@ void Trackers::placeMarkers(int slot, const Rect &object)
     place(trboxf.data() + (slot - 1) * handleCount, object);
 }
 
+void Trackers::showReference(int slot)
+{
+    if (slot == reference)
+        return;
+    colourMarkers(reference, markerColour);
+    colourMarkers(slot, referenceColour);
+    reference = slot;
+}
+
+void Trackers::colourMarkers(int slot, const QColor &colour)
+{
+    if (slot <= 0)
+        return;
+    loadMarkers(slot);
+    for (int i = 0; i < handleCount; ++i)
+        trboxf[static_cast<std::size_t>((slot - 1) * handleCount + i)]->setColour(colour);
+}
+
 void Trackers::hideMarkers(int slot)
 {
     loadMarkers(slot);
@@ -130,6 +179,7 @@ void Trackers::hideAll()
     hideHandles();
     hideOutline();
     hideGroupFrame();
+    hideBand();
     for (HandleBox *box : trboxf)
         box->hide();
 }
@@ -162,5 +212,14 @@ void Trackers::showGroupFrame(const Rect &r)
 }
 
 void Trackers::hideGroupFrame() { multbox->hide(); }
+
+void Trackers::drawBand(const Rect &r)
+{
+    band->setGeometry(r.left, r.top, r.width + 1, r.height + 1);
+    band->show();
+    band->raise();
+}
+
+void Trackers::hideBand() { band->hide(); }
 
 } // namespace corvanta

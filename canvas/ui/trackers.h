@@ -13,6 +13,7 @@ namespace corvanta {
 class HandleBox : public QWidget {
 public:
     HandleBox(QWidget &pageArea, const QString &name, const QColor &colour);
+    void setColour(const QColor &colour);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -37,18 +38,24 @@ public:
 
     void placeMarkers(int slot, const Rect &object);
     void hideMarkers(int slot);
+    // The member of this slot, the one that others line up with, has markers of its own colour; 0 for none.
+    void showReference(int slot);
     void hideAll();
 
     void drawOutline(const Rect &r);
     void hideOutline();
     void showGroupFrame(const Rect &r);
     void hideGroupFrame();
+    void drawBand(const Rect &r);
+    void hideBand();
 
 private:
     void loadMarkers(int slot);
+    void colourMarkers(int slot, const QColor &colour);
 
     QWidget &pageArea;
-    QWidget *multbox;
+    QWidget *multbox, *band;
+    int reference = 0; // slot
     std::array<HandleBox *, handleCount> trbox{};
     std::array<QWidget *, 4> boxline{};
     std::vector<HandleBox *> trboxf; // eight for each slot, loaded when the slot is first used

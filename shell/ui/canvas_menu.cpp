@@ -22,7 +22,8 @@ namespace {
 constexpr Command keyCommands[] = {Command::Undo,      Command::Redo,
                                    Command::Cut,       Command::Copy,
                                    Command::Paste,     Command::DuplicateObjects,
-                                   Command::SelectAll, Command::SharedProperties};
+                                   Command::SelectAll, Command::SharedProperties,
+                                   Command::TabOrder};
 
 void runEnabled(Command command)
 {
@@ -47,6 +48,7 @@ QList<QKeySequence> shortcutsOf(Command command)
     case Command::Paste: return {QKeySequence("Ctrl+V")};
     case Command::DuplicateObjects: return {QKeySequence("Ctrl+D")};
     case Command::SelectAll: return {QKeySequence("Ctrl+A")};
+    case Command::TabOrder: return {QKeySequence("Ctrl+T")};
     case Command::SharedProperties: return {QKeySequence("Ctrl+Return"), QKeySequence("Ctrl+Enter")};
     default: return {};
     }
@@ -119,7 +121,7 @@ void CanvasMenu::run(Command command)
 
 void openCanvasMenu(std::int16_t index, QPoint pagePoint, QPoint onScreen, QWidget *parent)
 {
-    if (gesture().dragging || gesture().resizing)
+    if (gestureActive())
         return;
     const auto chosen = chosenObjects();
     if (index != noObject && std::ranges::find(chosen, index) == chosen.end()) {

@@ -52,7 +52,8 @@ protected:
 
     int edits = 0;
     std::vector<std::int16_t> fronted, emptied, restored;
-    std::optional<Rect> trackers, outline, groupFrame;
+    std::optional<Rect> trackers, outline, groupFrame, band;
+    bool badges = false;
     std::map<std::int16_t, Rect> markers; // by slot
 
 private:
@@ -69,6 +70,9 @@ private:
         events.hideOutline.listen([this] { outline.reset(); });
         events.showGroupFrame.listen([this](const Rect &r) { groupFrame = r; });
         events.hideGroupFrame.listen([this] { groupFrame.reset(); });
+        events.drawBand.listen([this](const Rect &r) { band = r; });
+        events.hideBand.listen([this] { band.reset(); });
+        events.tabOrder.listen([this](bool shown) { badges = shown; });
         events.emptyVisual.listen([this](std::int16_t index) { emptied.push_back(index); });
         events.restoreVisual.listen([this](std::int16_t index) { restored.push_back(index); });
     }

@@ -1,3 +1,5 @@
+#include "canvas/keys.h"
+#include "canvas/tab_order.h"
 #include "tests/rules/canvas_page.h"
 
 namespace corvanta {
@@ -72,6 +74,86 @@ TEST_F(CanvasSelection, AlignmentFollowsTheCurrentObject)
     ctrlClick(a); // stays the reference
     alignSelection(2);
     EXPECT_EQ(rect(a), (Rect{10, 10, 50, 20}));
+}
+
+TEST_F(CanvasSelection, ARubberBandSelectsWhatItEnclosesOrTouches)
+{
+    struct Case {
+        Point from, to;
+        bool shift;
+        std::vector<std::int16_t> selected;
+    };
+    const Case cases[]{
+        {{5, 5}, {165, 35}, false, {a, b}},       {{300, 100}, {90, 0}, false, {b, c}}, // backwards
+        {{5, 5}, {159, 35}, false, {a}},          {{165, 35}, {100, 5}, true, {b}},
+        {{5, 200}, {2000, -50}, true, {a, b, c}}, // beyond the page
+        {{5, 200}, {100, 300}, true, {}},
+    };
+    for (const Case &test : cases) {
+        const Mouse released{.at = test.to, .left = true, .shift = test.shift};
+        pressObject(noObject, {.at = test.from, .left = true, .shift = test.shift});
+        moveObject(released);
+        EXPECT_TRUE(band);
+        releaseObject(noObject, released);
+        EXPECT_FALSE(band || gestureActive() || trackers);
+        std::vector<std::int16_t> selected;
+        for (std::int16_t i = 0; i < objectCount(page()); ++i)
+            if (inMultiSelection(i))
+                selected.push_back(i);
+        EXPECT_EQ(selected, test.selected);
+        EXPECT_EQ(editing().curobj, selected.empty() ? noObject : selected.front());
+    }
+    ctrlClick(a);
+    pressObject(noObject, left({5, 200}));
+    moveObject(left({300, 5}));
+    EXPECT_EQ(keyPressCommand(escapeCharacter), CanvasCommand::Cancel);
+    cancelGesture();
+    EXPECT_FALSE(band);
+    EXPECT_TRUE(inMultiSelection(a)) << "a band that is given up selects nothing";
+    EXPECT_EQ(keyPressCommand(escapeCharacter), CanvasCommand::ClearSelection);
+    clearSelection();
+    EXPECT_FALSE(hasMembers());
+    EXPECT_EQ(keyPressCommand(escapeCharacter), CanvasCommand::None);
+}
+
+TEST_F(CanvasSelection, TabWalksTheTabOrderAndThenTheTable)
+{
+    const auto d = add(Kind::TextBox, {10, 100, 50, 20});
+    object(a).tbindex = 2;
+    object(d).tbindex = 1;
+    std::vector<std::int16_t> walked;
+    for (int i = 0; i < 5; ++i) {
+        walkObjects(true);
+        walked.push_back(editing().curobj);
+    }
+    EXPECT_EQ(walked, (std::vector<std::int16_t>{d, a, b, c, d}));
+    EXPECT_EQ(trackers, rect(d));
+    walkObjects(false);
+    EXPECT_EQ(editing().curobj, c);
+}
+
+TEST_F(CanvasSelection, TheTabOrderIsGivenByClicking)
+{
+    const auto d = add(Kind::TextBox, {10, 100, 50, 20});
+    editing().pagedirty = false;
+    startTabOrder();
+    EXPECT_TRUE(badges);
+    for (const std::int16_t index : {d, d, b, noObject, a}) // a Label has no number
+        numberObject(index);
+    EXPECT_EQ(object(d).tbindex, 1);
+    EXPECT_EQ(object(a).tbindex, 2);
+    EXPECT_TRUE(editing().pagedirty);
+    EXPECT_EQ(edits, 0);
+    endTabOrder();
+    EXPECT_EQ(edits, 1) << "one act";
+    EXPECT_FALSE(badges);
+    startTabOrder();
+    numberObject(d);
+    endTabOrder();
+    EXPECT_EQ(edits, 1) << "the number was its own";
+    startTabOrder();
+    deleteObject(d);
+    EXPECT_FALSE(tabOrderActive());
 }
 
 } // namespace

@@ -1,11 +1,16 @@
 #include "canvas/gestures.h"
+#include "canvas/selection.h"
+#include "canvas/tab_order.h"
 #include "canvas/ui/drop.h"
 #include "tests/windows/canvas_form.h"
 #include "tests/windows/drops.h"
 
 #include <QAccessible>
 #include <QDialog>
+#include <QLabel>
 #include <QMenu>
+#include <QScrollArea>
+#include <QScrollBar>
 
 using namespace corvanta;
 
@@ -190,6 +195,56 @@ TEST_F(CanvasInputTest, ADragEndsWithWhateverTakesTheMouse)
         form.setEnabled(true);
     }
     EXPECT_EQ(recordRect(0), QRect(60, 50, 90, 40));
+}
+
+TEST_F(CanvasInputTest, ADragAtTheBorderScrollsOnAndTheStatusPanelTellsThePlace)
+{
+    page().bkgwd = 3000;
+    form.applyPageLayout();
+    const auto near = add(Kind::Label, QRect(60, 50, 90, 40)), far = add(Kind::Label, QRect(2500, 50, 90, 40));
+    const auto status = [&] { return child<QLabel>("statusline").text(); };
+    const auto &bar = *form.findChild<QScrollArea *>()->horizontalScrollBar();
+    const QPoint border(form.width() + 20, 60);
+    QWidget &label = child("lbl1");
+    QTest::mousePress(&label, Qt::LeftButton, {}, QPoint(5, 5));
+    QTest::mouseMove(&label, label.mapFrom(&form, border));
+    EXPECT_EQ(status(),
+              QString("Left %1, top %2, width 90, height 40").arg(child("boxline0").x()).arg(child("boxline0").y()));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return bar.value() > 300; }, 5000));
+    EXPECT_GT(child("boxline0").x(), bar.value()) << "the object stays under the pointer";
+    QTest::keyClick(&form.pageArea(), Qt::Key_Escape);
+    EXPECT_EQ(status(), "");
+    const int before = bar.value();
+    EXPECT_EQ(recordRect(near).x(), 60);
+    selectObject(far);
+    EXPECT_GT(bar.value(), before) << "what becomes current comes into sight";
+    EXPECT_TRUE(QRect(QPoint(), form.size()).contains(child("lbl2").mapTo(&form, QPoint(45, 20))));
+    QTest::keyClick(&form.pageArea(), Qt::Key_Tab);
+    EXPECT_EQ(editing().curobj, near);
+    EXPECT_LE(bar.value(), 60);
+}
+
+TEST_F(CanvasInputTest, TheReferenceObjectAndTheTabNumbersShow)
+{
+    add(Kind::Button, QRect(20, 20, 50, 20));
+    const auto second = add(Kind::TextBox, QRect(100, 60, 50, 24));
+    selectAllObjects();
+    const auto colour = [&](const char *marker) { return child(marker).grab().toImage().pixelColor(0, 0); };
+    EXPECT_NE(colour("trboxf0"), colour("trboxf8"));
+    const QColor reference = colour("trboxf0");
+    setCurrentObject(second);
+    EXPECT_EQ(colour("trboxf8"), reference);
+    EXPECT_NE(colour("trboxf0"), reference);
+
+    startTabOrder();
+    EXPECT_TRUE(child("tabbadges").isVisible());
+    QTest::mouseClick(&child("tbx1"), Qt::LeftButton);
+    QTest::mouseClick(&child("but1"), Qt::LeftButton);
+    EXPECT_EQ(object(second).tbindex, 1);
+    EXPECT_EQ(object(0).tbindex, 2);
+    QTest::keyClick(&form.pageArea(), Qt::Key_Escape);
+    EXPECT_FALSE(child("tabbadges").isVisible());
+    EXPECT_TRUE(hasMembers()) << "clicks in the mode select nothing";
 }
 
 TEST_F(CanvasInputTest, WhatIsDrawnOnThePageIsAccessibleToo)
