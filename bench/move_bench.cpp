@@ -56,6 +56,30 @@ void dragObjectOverPage(benchmark::State &state)
                                                          benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
     newPage();
 }
+// The first one over a page, which makes all markers.
+void selectAllByBand(benchmark::State &state)
+{
+    for (auto _ : state) {
+        state.PauseTiming();
+        {
+            Editform form;
+            fillPage(state.range(0));
+            form.applyPageLayout();
+            form.show();
+            QCoreApplication::processEvents();
+            const QPoint empty(pageWidth - 5, pageHeight - 2);
+            sendMouse(form.pageArea(), QEvent::MouseButtonPress, empty);
+            state.ResumeTiming();
+            sendMouse(form.pageArea(), QEvent::MouseMove, QPoint(-1, -1));
+            sendMouse(form.pageArea(), QEvent::MouseButtonRelease, QPoint(-1, -1));
+            state.PauseTiming();
+            newPage();
+        }
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(selectAllByBand)->Arg(10)->Arg(257)->Unit(benchmark::kMillisecond);
+
 BENCHMARK(dragObjectOverPage)->Arg(10)->Arg(257)->Unit(benchmark::kMillisecond);
 
 } // namespace
