@@ -1,24 +1,45 @@
 #include "json/action.h"
 
 #include "actions/action.h"
+#include "document/encoding.h"
 #include "json/reader.h"
 #include "json/writer.h"
+
+#include <algorithm>
 
 namespace corvanta {
 
 namespace {
 
 // Lists nested deeper than this are written as "raw" alone, so that no file makes the JSON immense.
-constexpr int deepestList = 200;
+constexpr int deepestList = 24;
+
+// The entries that the bytes hold: a damaged count may claim thousands.
+std::vector<ActionEntry> heldEntries(std::string_view text)
+{
+    decodeInt16(text);
+    const std::int16_t count = decodeInt16(text);
+    std::vector<ActionEntry> entries;
+    for (std::int16_t i = 0; i < count && !text.empty(); ++i)
+        entries.push_back(decodeActionEntry(decodeString(text)));
+    return entries;
+}
+
+bool sameEntry(const ActionEntry &a, const ActionEntry &b) { return a.action == b.action && a.status == b.status; }
+
+bool sameEntries(const std::vector<ActionEntry> &a, const std::vector<ActionEntry> &b)
+{
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(), sameEntry);
+}
 
 Json actionJsonAt(std::string_view text, int level);
 
 bool writeEntries(JsonWriter &writer, std::string_view text, int level)
 {
-    Json &entries = writer.out["entries"] = Json::array();
     if (level > deepestList)
         return false;
-    const std::vector<ActionEntry> list = decodeActionList(text);
+    Json &entries = writer.out["entries"] = Json::array();
+    const std::vector<ActionEntry> list = heldEntries(text);
     for (const ActionEntry &entry : list) {
         JsonWriter item;
         item.out["action"] = actionJsonAt(entry.action, level + 1);
@@ -52,14 +73,30 @@ Json actionJsonAt(std::string_view text, int level)
     return std::move(writer.out);
 }
 
-std::string readEntries(JsonReader &reader)
+// The bytes behind "raw", which are of the code that stands beside them.
+std::string readRaw(JsonReader &reader, std::int16_t code)
 {
+    const std::string bytes = bytesOf(reader.value("raw"), reader.pathOf("raw"));
+    if (ActionCode(bytes) != code)
+        reader.refuse("raw", "these bytes are of code " + std::to_string(ActionCode(bytes)) + ", not of code " +
+                                 std::to_string(code));
+    return bytes;
+}
+
+std::string readList(JsonReader &reader)
+{
+    const bool raw = reader.has("raw");
+    const std::string bytes = raw ? readRaw(reader, action::list) : std::string();
+    if (raw && !reader.has("entries"))
+        return bytes;
     std::vector<ActionEntry> entries;
     reader.rest("entries", entries, [](JsonReader &item, ActionEntry &entry) {
         item.action("action", entry.action);
         item.text("status", entry.status);
     });
-    return encodeActionList(entries);
+    if (raw && !sameEntries(entries, heldEntries(bytes)))
+        reader.refuse("raw", "these bytes hold other entries than the named ones");
+    return raw ? bytes : encodeActionList(entries);
 }
 
 std::string readParameters(JsonReader &reader, std::int16_t code)
@@ -75,17 +112,10 @@ std::string readParameters(JsonReader &reader, std::int16_t code)
         reader.int16(parameter.name, number);
         value = std::to_string(number);
     }
-    return encodeAction(read);
-}
-
-// The bytes behind "raw"; the named form beside them must say the same.
-std::string readRaw(JsonReader &reader, std::int16_t code, std::string_view named)
-{
-    const std::string bytes = bytesOf(reader.value("raw"), reader.pathOf("raw"));
-    if (ActionCode(bytes) != code)
-        reader.refuse("raw", "these bytes are of code " + std::to_string(ActionCode(bytes)) + ", not of code " +
-                                 std::to_string(code));
-    if (decodeAction(bytes).values != decodeAction(named).values)
+    if (!reader.has("raw"))
+        return encodeAction(read);
+    std::string bytes = readRaw(reader, code);
+    if (decodeAction(bytes).values != decodeAction(encodeAction(read)).values)
         reader.refuse("raw", "these bytes hold other parameters than the named ones");
     return bytes;
 }
@@ -99,9 +129,7 @@ std::string actionFromJson(const Json &value, const std::string &path)
     JsonReader reader(value, path);
     std::int16_t code = 0;
     reader.int16("code", code);
-    std::string text = code == action::list ? readEntries(reader) : readParameters(reader, code);
-    if (reader.has("raw"))
-        text = readRaw(reader, code, text);
+    std::string text = code == action::list ? readList(reader) : readParameters(reader, code);
     reader.finish();
     return text;
 }

@@ -3,7 +3,7 @@
 #include "json/values.h"
 
 // Action texts in JSON: the code, the kind's parameters (or a list's entries) and, where these alone would
-// not give the same bytes back, the whole text as hexadecimal "raw". What "raw" says holds.
+// not give the same bytes back, the whole text as hexadecimal "raw". Where both stand they must say the same.
 namespace corvanta {
 
 Json actionJson(std::string_view text);

@@ -8,19 +8,34 @@ namespace {
 
 constexpr std::size_t deepestLevel = 1000, mostKeys = 100;
 
-// Follows the parser through the text: which keys each open object has had, and where it stands.
-class ParseWatch {
+// The parser's message without its "[json.exception...]" mark.
+std::string plainMessage(const std::string &message)
+{
+    const std::size_t end = message.find("] ");
+    return end == std::string::npos ? message : message.substr(end + 2);
+}
+
+// Far more values than the JSON of any file has.
+constexpr std::size_t mostValues = 1'000'000;
+
+// Goes through the text before anything of it is kept: which keys each open object has had, and where it stands.
+class ParseWatch : public nlohmann::json_sax<Json> {
 public:
-    void see(Json::parse_event_t event, const Json &parsed)
+    bool null() override { return value(); }
+    bool boolean(bool) override { return value(); }
+    bool number_integer(std::int64_t) override { return value(); }
+    bool number_unsigned(std::uint64_t) override { return value(); }
+    bool number_float(double, const std::string &) override { return value(); }
+    bool string(std::string &) override { return value(); }
+    bool binary(Json::binary_t &) override { return value(); }
+    bool start_object(std::size_t) override { return open(true); }
+    bool start_array(std::size_t) override { return open(false); }
+    bool key(std::string &name) override { return addKey(name); }
+    bool end_object() override { return close(); }
+    bool end_array() override { return close(); }
+    bool parse_error(std::size_t, const std::string &, const Json::exception &error) override
     {
-        switch (event) {
-        case Json::parse_event_t::object_start:
-        case Json::parse_event_t::array_start: return open(event == Json::parse_event_t::object_start);
-        case Json::parse_event_t::key: return key(parsed.get<std::string>());
-        case Json::parse_event_t::object_end:
-        case Json::parse_event_t::array_end: levels.pop_back(); return complete();
-        case Json::parse_event_t::value: return complete();
-        }
+        throw JsonError("$", plainMessage(error.what()));
     }
 
 private:
@@ -31,26 +46,37 @@ private:
         std::size_t item = 0;
     };
 
-    void open(bool object)
+    bool open(bool object)
     {
         if (levels.size() == deepestLevel)
             throw JsonError("$", "more than " + std::to_string(deepestLevel) + " levels of nesting");
         levels.push_back({object, {}, {}, 0});
+        return true;
     }
 
-    void key(std::string name)
+    bool addKey(const std::string &name)
     {
         levels.back().lastKey = name;
-        if (!levels.back().keys.insert(std::move(name)).second)
+        if (!levels.back().keys.insert(name).second)
             throw JsonError(path(), "the key stands twice");
         if (levels.back().keys.size() > mostKeys)
             throw JsonError(path(), "more than " + std::to_string(mostKeys) + " keys");
+        return true;
     }
 
-    void complete()
+    bool close()
     {
+        levels.pop_back();
+        return value();
+    }
+
+    bool value()
+    {
+        if (++values > mostValues)
+            throw JsonError("$", "more than " + std::to_string(mostValues) + " values");
         if (!levels.empty())
             ++levels.back().item;
+        return true;
     }
 
     std::string path() const
@@ -62,14 +88,8 @@ private:
     }
 
     std::vector<Level> levels;
+    std::size_t values = 0;
 };
-
-// The parser's message without its "[json.exception...]" mark.
-std::string plainMessage(const std::string &message)
-{
-    const std::size_t end = message.find("] ");
-    return end == std::string::npos ? message : message.substr(end + 2);
-}
 
 } // namespace
 
@@ -80,11 +100,9 @@ std::string itemPath(const std::string &path, std::size_t item) { return path + 
 Json parseJson(std::string_view text)
 {
     ParseWatch watch;
+    Json::sax_parse(text.begin(), text.end(), &watch);
     try {
-        return Json::parse(text.begin(), text.end(), [&](int, Json::parse_event_t event, Json &parsed) {
-            watch.see(event, parsed);
-            return true;
-        });
+        return Json::parse(text.begin(), text.end());
     } catch (const Json::exception &error) {
         throw JsonError("$", plainMessage(error.what()));
     }

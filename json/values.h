@@ -22,8 +22,8 @@ public:
 std::string keyPath(const std::string &path, std::string_view key);
 std::string itemPath(const std::string &path, std::size_t item);
 
-// Parses a whole text. Throws JsonError for malformed JSON, duplicate keys, more than 1000 levels or
-// more than 100 keys in one object.
+// Parses a whole text. Throws JsonError for malformed JSON, duplicate keys, more than 1000 levels,
+// more than 100 keys in one object or more than a million values.
 Json parseJson(std::string_view text);
 // With one blank per level and a new line at the end.
 std::string printJson(const Json &json);

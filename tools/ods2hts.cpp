@@ -1,10 +1,10 @@
 #include "converter/convert.h"
 #include "platform/codepage.h"
 #include "platform/files.h"
+#include "tools/standard_streams.h"
 
 #include <CLI/CLI.hpp>
 
-#include <iostream>
 #include <string>
 #include <vector>
 
@@ -23,13 +23,18 @@ bool convert(const std::string &file)
 int main(int argc, char **argv)
 {
     corvanta::takeFileErrorsAsErrors();
+    corvanta::holdStandardStreams();
     CLI::App app("Writes the HTML template of each page file beside it, with the extension \"hts\".", "ods2hts");
     app.set_version_flag("--version", CORVANTA_VERSION);
     int codePage = 0;
     std::vector<std::string> files;
     app.add_option("--codepage", codePage, "Windows code page of the pages' texts; by default the language's");
     app.add_option("FILE", files, "Page files")->required();
-    CLI11_PARSE(app, argc, argv);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError &error) {
+        return corvanta::afterPrinting("ods2hts", app.exit(error));
+    }
 
     if (!corvanta::setCodePage(codePage != 0 ? codePage : corvanta::codePageOfEnvironment())) {
         std::cerr << "ods2hts: unknown code page " << codePage << '\n';

@@ -1,5 +1,4 @@
 #include "platform/codepage.h"
-#include "platform/host_files.h"
 #include "tools/odspage_commands.h"
 #include "json/page.h"
 
@@ -16,9 +15,9 @@ struct BuildArguments {
     std::string input, output;
 };
 
-std::string readJsonFile(const std::string &file)
+std::string readJsonFile(ToolRun &run, const std::string &file)
 {
-    FileContent content = readHostFile(file, jsonLimit);
+    FileContent content = readFileOrPipe(run, file, jsonLimit);
     if (content.missing)
         throw std::runtime_error("no such file");
     if (content.tooLarge)
@@ -32,7 +31,7 @@ int build(ToolRun &run, const BuildArguments &arguments)
 {
     std::string bytes;
     try {
-        bytes = fileFromJson(parseJson(readJsonFile(arguments.input)));
+        bytes = fileFromJson(parseJson(readJsonFile(run, arguments.input)));
     } catch (const std::runtime_error &error) {
         complain(run, arguments.input, error.what());
         return 1;
@@ -41,8 +40,8 @@ int build(ToolRun &run, const BuildArguments &arguments)
         complain(run, "OUT", "no file name");
         return 1;
     }
-    if (const auto error = writeHostFileAtomically(std::filesystem::absolute(arguments.output), bytes)) {
-        complain(run, arguments.output, toUtf8(*error));
+    if (const std::string error = writeFileOrPipe(run, arguments.output, bytes); !error.empty()) {
+        complain(run, arguments.output, error);
         return 1;
     }
     return 0;
@@ -54,8 +53,9 @@ void addBuildCommand(CLI::App &app, ToolRun &run)
 {
     CLI::App *command = app.add_subcommand("build", "Write the page file or object file that a JSON text describes");
     const auto arguments = std::make_shared<BuildArguments>();
-    command->add_option("FILE.json", arguments->input, "JSON as dump prints it")->required();
-    command->add_option("OUT", arguments->output, "file to write")->required();
+    command->add_option("FILE.json", arguments->input, "JSON as dump prints it; \"-\" is the standard input")
+        ->required();
+    command->add_option("OUT", arguments->output, "file to write; \"-\" is the standard output")->required();
     command->callback([&run, arguments] { run.exitCode = build(run, *arguments); });
 }
 

@@ -8,6 +8,9 @@
 #include <CLI/Config.hpp>
 #include <CLI/Formatter.hpp>
 
+#include <array>
+#include <fstream>
+
 namespace corvanta {
 
 namespace {
@@ -19,11 +22,43 @@ constexpr AddCommand commands[] = {
 };
 
 constexpr int usualCodePage = 1252, wrongUsage = 2;
+constexpr const char *notWritten = "could not be written";
 
 void useCodePage(int number)
 {
     if (!setCodePage(number))
         throw CLI::ValidationError("--codepage", "unknown code page " + std::to_string(number));
+}
+
+// A pipe or a device: read and written as it is. A block device is neither.
+bool isStream(const std::filesystem::path &file)
+{
+    std::error_code error;
+    const std::filesystem::file_type type = std::filesystem::status(file, error).type();
+    return type == std::filesystem::file_type::fifo || type == std::filesystem::file_type::character;
+}
+
+FileContent readStream(std::istream &stream, std::uintmax_t limit)
+{
+    FileContent content;
+    std::array<char, 65536> chunk;
+    while (stream && content.bytes.size() <= limit) {
+        stream.read(chunk.data(), chunk.size());
+        content.bytes.append(chunk.data(), static_cast<std::size_t>(stream.gcount()));
+    }
+    content.length = content.bytes.size();
+    content.tooLarge = content.length > limit;
+    if (content.tooLarge)
+        content.bytes.clear();
+    else if (!stream.eof())
+        content.error = "could not be read";
+    return content;
+}
+
+std::string writeStream(std::ostream &stream, std::string_view bytes)
+{
+    stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size())).flush();
+    return stream ? "" : notWritten;
 }
 
 } // namespace
@@ -35,7 +70,7 @@ void complain(ToolRun &run, std::string_view file, std::string_view text)
 
 std::string readInput(ToolRun &run, const std::string &file)
 {
-    FileContent content = readHostFile(file, fileLimit);
+    FileContent content = readFileOrPipe(run, file, fileLimit);
     const std::string failure = readingFailure(content);
     if (failure.empty())
         return std::move(content.bytes);
@@ -43,11 +78,44 @@ std::string readInput(ToolRun &run, const std::string &file)
     return {};
 }
 
-int runOdspage(int argc, const char *const *argv, std::ostream &out, std::ostream &err)
+std::string readPageInput(ToolRun &run, const std::string &file)
 {
-    ToolRun run{out, err};
+    FileContent content = readFileOrPipe(run, file, fileLimit);
+    const std::string failure = pageFailure(content);
+    if (failure.empty())
+        return std::move(content.bytes);
+    complain(run, file, failure);
+    return {};
+}
+
+FileContent readFileOrPipe(ToolRun &run, const std::string &file, std::uintmax_t limit)
+{
+    if (file == "-")
+        return readStream(run.in, limit);
+    if (!isStream(file))
+        return readHostFile(file, limit);
+    std::ifstream pipe(file, std::ios::binary);
+    return readStream(pipe, limit);
+}
+
+std::string writeFileOrPipe(ToolRun &run, const std::string &file, std::string_view bytes)
+{
+    if (file == "-")
+        return writeStream(run.out, bytes);
+    if (isStream(file)) {
+        std::ofstream pipe(file, std::ios::binary);
+        return writeStream(pipe, bytes);
+    }
+    const auto error = writeHostFileAtomically(std::filesystem::absolute(file), bytes);
+    return error ? toUtf8(*error) : std::string();
+}
+
+int runOdspage(int argc, const char *const *argv, std::ostream &out, std::ostream &err, std::istream &in)
+{
+    ToolRun run{out, err, in};
     CLI::App app("Page files and object files of the Corvanta Form Editor, without a display.", "odspage");
     app.require_subcommand(1);
+    app.set_version_flag("--version", CORVANTA_VERSION);
     useCodePage(usualCodePage);
     app.add_option_function<int>(
         "--codepage",
@@ -64,7 +132,11 @@ int runOdspage(int argc, const char *const *argv, std::ostream &out, std::ostrea
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError &error) {
-        return app.exit(error, out, err) == 0 ? 0 : wrongUsage;
+        run.exitCode = app.exit(error, out, err) == 0 ? 0 : wrongUsage;
+    }
+    if (!out.flush()) {
+        complain(run, "standard output", notWritten);
+        return run.exitCode == 0 ? 1 : run.exitCode;
     }
     return run.exitCode;
 }

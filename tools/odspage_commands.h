@@ -1,8 +1,12 @@
 #pragma once
 
+#include "platform/files.h"
+
 #include <CLI/App.hpp>
 
-#include <ostream>
+#include <cstdint>
+#include <iostream>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 
@@ -11,18 +15,27 @@ namespace corvanta {
 
 struct ToolRun {
     std::ostream &out, &err;
+    std::istream &in = std::cin;
     int exitCode = 0;
     bool codePageGiven = false;
 };
 
 // Runs the command line; returns the exit code.
-int runOdspage(int argc, const char *const *argv, std::ostream &out, std::ostream &err);
+int runOdspage(int argc, const char *const *argv, std::ostream &out, std::ostream &err, std::istream &in = std::cin);
 
 // One line on the error stream: "odspage: " and what is said.
 void complain(ToolRun &run, std::string_view file, std::string_view text);
 
 // The bytes of a page or object file by its host name; empty after a failure, which has been said.
 std::string readInput(ToolRun &run, const std::string &file);
+// The same of a file that must be a page.
+std::string readPageInput(ToolRun &run, const std::string &file);
+
+// A file by its host name, a pipe, or "-" for the standard input, up to the limit.
+FileContent readFileOrPipe(ToolRun &run, const std::string &file, std::uintmax_t limit);
+// Writes a file as a whole; a pipe, a device and "-" for the standard output as they are. The error's description in
+// UTF-8, empty on success.
+std::string writeFileOrPipe(ToolRun &run, const std::string &file, std::string_view bytes);
 
 void addDumpCommand(CLI::App &app, ToolRun &run);
 void addBuildCommand(CLI::App &app, ToolRun &run);

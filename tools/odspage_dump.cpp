@@ -48,7 +48,12 @@ Reading readObjectFile(std::string_view bytes)
 
 void warnOfChange(ToolRun &run, const std::string &file, const Reading &reading)
 {
-    complain(run, file, "warning: saving would change this file");
+    if (reading.saved.size() > fileLimit)
+        complain(run, file,
+                 "warning: saving would be refused: " + std::to_string(reading.saved.size()) +
+                     " bytes are more than the " + std::to_string(fileLimit) + " of a file");
+    else
+        complain(run, file, "warning: saving would change this file");
     for (const std::string &line : reading.damage.lines)
         complain(run, file, "warning: " + line);
     if (reading.version != currentVersion)
@@ -63,11 +68,7 @@ int dump(ToolRun &run, const std::string &file)
     if (bytes.empty())
         return 1;
     const Reading reading = isObjectFile(file, bytes) ? readObjectFile(bytes) : readPageFile(bytes);
-    run.out << printJson(reading.json) << std::flush;
-    if (!run.out) {
-        complain(run, file, "the output could not be written");
-        return 1;
-    }
+    run.out << printJson(reading.json);
     if (reading.saved != bytes)
         warnOfChange(run, file, reading);
     return 0;
@@ -79,7 +80,8 @@ void addDumpCommand(CLI::App &app, ToolRun &run)
 {
     CLI::App *command = app.add_subcommand("dump", "Print a page file or an object file as JSON");
     const auto file = std::make_shared<std::string>();
-    command->add_option("FILE", *file, "page file (.ods) or object file (.hdo)")->required();
+    command->add_option("FILE", *file, "page file (.ods) or object file (.hdo); \"-\" is the standard input")
+        ->required();
     command->callback([&run, file] { run.exitCode = dump(run, *file); });
 }
 

@@ -12,7 +12,7 @@ namespace {
 
 int generate(ToolRun &run, const std::string &file)
 {
-    const std::string bytes = readInput(run, file);
+    const std::string bytes = readPageInput(run, file);
     if (bytes.empty())
         return 1;
     Page p;

@@ -7,6 +7,7 @@
 #include "platform/qt/fonts.h"
 #include "platform/qt/qt_pictures.h"
 #include "platform/text.h"
+#include "tools/standard_streams.h"
 
 #include <CLI/CLI.hpp>
 #include <QGuiApplication>
@@ -43,7 +44,7 @@ int fail(const std::string &file, const std::string &reason)
 // Why the file cannot be opened as a page; empty when it can.
 std::string obstacle(const std::string &path)
 {
-    return path.empty() ? "no such file" : readingFailure(readFile(path, fileLimit));
+    return path.empty() ? "no such file" : pageFailure(readFile(path, fileLimit));
 }
 
 // The page without a size of its own takes that of a new canvas window.
@@ -89,8 +90,10 @@ void tellOnlyFailures(QtMsgType type, const QMessageLogContext &, const QString 
 int main(int argc, char **argv)
 {
     takeFileErrorsAsErrors();
+    holdStandardStreams();
     Job job;
     CLI::App usage("Renders a page file as a PNG picture.", "odsrender");
+    usage.set_version_flag("--version", CORVANTA_VERSION);
     usage.add_option("FILE.ods", job.input, "the page file")->required();
     usage.add_option("OUT.png", job.output, "the picture to write")->required();
     usage.add_option("--codepage", job.codePage, "the code page of the file's texts (874, 1250 to 1258)")
@@ -101,7 +104,7 @@ int main(int argc, char **argv)
     try {
         usage.parse(argc, argv);
     } catch (const CLI::ParseError &error) {
-        return usage.exit(error) == 0 ? 0 : wrongUsage;
+        return afterPrinting("odsrender", usage.exit(error) == 0 ? 0 : wrongUsage);
     }
     setenv("QT_QPA_PLATFORM", "offscreen", 1);
     qInstallMessageHandler(tellOnlyFailures);

@@ -1,3 +1,4 @@
+#include "document/encoding.h"
 #include "tests/rules/odspage_files.h"
 #include "json/action.h"
 
@@ -70,6 +71,23 @@ TEST(OdspageBuild, RefusesWithPathAndReason)
          "no Grid"},
         {"file", "/pgcaption", std::string(16000, 'x'), "$", "more than the 16384"},
     };
+    const Json entry = {{"action", {{"code", 0}}}, {"status", "x"}};
+    const Refusal raws[] = {
+        {"raw of other parameters", "/objects/2/actlist/raw", "01000100587461696c", "$.objects[2].actlist.raw",
+         "other parameters"},
+        {"raw of other entries",
+         "/objects/2/actlist",
+         {{"code", 512}, {"entries", {entry}}, {"raw", "00020000"}},
+         "$.objects[2].actlist.raw",
+         "other entries"},
+        {"raw of fewer entries",
+         "/objects/2/actlist",
+         {{"code", 512}, {"entries", Json::array()}, {"raw", "0002010007000200000001007800"}},
+         "$.objects[2].actlist.raw",
+         "other entries"},
+    };
+    for (const Refusal &refusal : raws)
+        expectRefusal(refusalOf(changed(refusal)), refusal.path, refusal.reason);
     for (const Refusal &refusal : refusals) {
         SCOPED_TRACE(refusal.what);
         expectRefusal(refusalOf(changed(refusal)), refusal.path, refusal.reason);
@@ -91,6 +109,10 @@ TEST(OdspageBuild, RefusesMalformedJson)
     for (const char *text : {"", "{", "{}x", "{\"a\":\"\xFF\"}", "{\"a\":1e999}", "{\"a\":\"\\ud800\"}", "[1,]"})
         EXPECT_EQ(refusal(text).substr(0, 3), "$: ") << text;
     expectRefusal(refusalOf(Json::array()), "$", "object");
+    std::string many = "[{}";
+    for (int i = 0; i < 1'000'000; ++i)
+        many += ",{}";
+    expectRefusal(refusal(many + "]"), "$", "values");
 }
 
 TEST(OdspageBuild, ARefusedBuildLeavesTheOutputUntouched)
@@ -124,6 +146,42 @@ TEST(OdspageAction, RawStandsOnlyWhereTheNamedFormFallsShort)
     both("\0\x02\x01\0\x06\0\x02\0\xFB\x01\0\0"s,
          R"({"code":512,"entries":[{"action":{"code":507,"select":"","hitlist":"","queryview":"","raw":"fb01"},)"
          R"("status":""}]})");
+}
+
+// Lists in lists that all claim 32,767 entries, and one that ends in empty entries.
+TEST(OdspageAction, AHostileListPrintsWhatItsBytesHold)
+{
+    std::string claims, nested = std::string(4000, '\0');
+    for (int level = 0; level < 800; ++level) {
+        claims = "\0\2\xFF\x7F"s + encodeString(encodeString(claims));
+        nested = "\0\2\xFF\x7F"s + encodeString(encodeString(nested));
+    }
+    for (const std::string &text : {claims, nested}) {
+        const Json json = actionJson(text);
+        EXPECT_LT(printJson(json).size(), 8U << 20);
+        EXPECT_EQ(actionFromJson(parseJson(printJson(json)), "$"), text);
+    }
+}
+
+TEST(Odspage, ReadsAndWritesStandardStreams)
+{
+    const ToolResult dump = odspage({"dump", "-"}, sample("menu.ods"));
+    EXPECT_EQ(dump.out, sample("menu.json") + "\n") << dump.err;
+    EXPECT_EQ(odspage({"build", "-", "-"}, dump.out).out, sample("menu.ods"));
+    EXPECT_EQ(odspage({"dump", "/dev/zero"}).exitCode, 1);
+    EXPECT_EQ(odspage({"build", samplePath("menu.json"), "/dev/full"}).exitCode, 1);
+    EXPECT_EQ(odspage({"--version"}).exitCode, 0);
+}
+
+TEST(Odspage, RefusesWhatIsNoPage)
+{
+    const ScratchFolder scratch;
+    const std::string object = scratch.write("lamp.ods", sample("lamp.hdo")), text = scratch.write("text.ods", "Hello");
+    for (const char *command : {"sql", "html"}) {
+        EXPECT_NE(odspage({command, text}).err.find("text.ods: "), std::string::npos);
+        EXPECT_NE(odspage({command, object}).err.find("not a page file"), std::string::npos);
+        EXPECT_EQ(odspage({command, object}).exitCode, 1);
+    }
 }
 
 } // namespace

@@ -27,14 +27,15 @@ struct ToolResult {
     std::string out, err;
 };
 
-inline ToolResult odspage(std::vector<std::string> arguments)
+inline ToolResult odspage(std::vector<std::string> arguments, const std::string &input = {})
 {
     arguments.insert(arguments.begin(), "odspage");
     std::vector<const char *> argv;
     for (const std::string &argument : arguments)
         argv.push_back(argument.c_str());
     std::ostringstream out, err;
-    const int exitCode = runOdspage(static_cast<int>(argv.size()), argv.data(), out, err);
+    std::istringstream in(input);
+    const int exitCode = runOdspage(static_cast<int>(argv.size()), argv.data(), out, err, in);
     return {exitCode, out.str(), err.str()};
 }
 
