@@ -93,6 +93,16 @@ std::vector<ActionEntry> decodeActionList(std::string_view text)
     return entries;
 }
 
+std::vector<ActionEntry> heldActionEntries(std::string_view text)
+{
+    decodeInt16(text);
+    const std::int16_t count = decodeInt16(text);
+    std::vector<ActionEntry> entries;
+    for (std::int16_t i = 0; i < count && !text.empty(); ++i)
+        entries.push_back(decodeActionEntry(decodeString(text)));
+    return entries;
+}
+
 std::string encodeActionList(const std::vector<ActionEntry> &entries)
 {
     std::string text = encodeInt16(action::list) + encodeInt16(static_cast<std::int16_t>(entries.size()));

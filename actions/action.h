@@ -44,6 +44,8 @@ struct ActionEntry {
     std::string status; // free text
 };
 std::vector<ActionEntry> decodeActionList(std::string_view text);
+// Only those entries that the bytes hold, where a damaged count claims more.
+std::vector<ActionEntry> heldActionEntries(std::string_view text);
 std::string encodeActionList(const std::vector<ActionEntry> &entries);
 // The exchange text of one entry: two string values.
 ActionEntry decodeActionEntry(std::string_view text);

@@ -1,7 +1,6 @@
 #include "json/action.h"
 
 #include "actions/action.h"
-#include "document/encoding.h"
 #include "json/reader.h"
 #include "json/writer.h"
 
@@ -13,17 +12,6 @@ namespace {
 
 // Lists nested deeper than this are written as "raw" alone, so that no file makes the JSON immense.
 constexpr int deepestList = 24;
-
-// The entries that the bytes hold: a damaged count may claim thousands.
-std::vector<ActionEntry> heldEntries(std::string_view text)
-{
-    decodeInt16(text);
-    const std::int16_t count = decodeInt16(text);
-    std::vector<ActionEntry> entries;
-    for (std::int16_t i = 0; i < count && !text.empty(); ++i)
-        entries.push_back(decodeActionEntry(decodeString(text)));
-    return entries;
-}
 
 bool sameEntry(const ActionEntry &a, const ActionEntry &b) { return a.action == b.action && a.status == b.status; }
 
@@ -39,7 +27,7 @@ bool writeEntries(JsonWriter &writer, std::string_view text, int level)
     if (level > deepestList)
         return false;
     Json &entries = writer.out["entries"] = Json::array();
-    const std::vector<ActionEntry> list = heldEntries(text);
+    const std::vector<ActionEntry> list = heldActionEntries(text);
     for (const ActionEntry &entry : list) {
         JsonWriter item;
         item.out["action"] = actionJsonAt(entry.action, level + 1);
@@ -94,7 +82,7 @@ std::string readList(JsonReader &reader)
         item.action("action", entry.action);
         item.text("status", entry.status);
     });
-    if (raw && !sameEntries(entries, heldEntries(bytes)))
+    if (raw && !sameEntries(entries, heldActionEntries(bytes)))
         reader.refuse("raw", "these bytes hold other entries than the named ones");
     return raw ? bytes : encodeActionList(entries);
 }

@@ -18,7 +18,7 @@ namespace {
 using AddCommand = void (*)(CLI::App &app, ToolRun &run);
 
 constexpr AddCommand commands[] = {
-    addDumpCommand, addBuildCommand, addSqlCommand, addHtmlCommand, addPreviewCommand,
+    addDumpCommand, addBuildCommand, addSqlCommand, addHtmlCommand, addCheckCommand, addPreviewCommand,
 };
 
 constexpr int usualCodePage = 1252, wrongUsage = 2;

@@ -41,6 +41,7 @@ void addDumpCommand(CLI::App &app, ToolRun &run);
 void addBuildCommand(CLI::App &app, ToolRun &run);
 void addSqlCommand(CLI::App &app, ToolRun &run);
 void addHtmlCommand(CLI::App &app, ToolRun &run);
+void addCheckCommand(CLI::App &app, ToolRun &run);
 void addPreviewCommand(CLI::App &app, ToolRun &run);
 
 } // namespace corvanta
