@@ -55,7 +55,8 @@ void writeTableRules(Template &t, std::int16_t index, std::size_t columns, int r
     for (std::size_t i = 0; i < columns; ++i) {
         const int pixels = columnWidth(t.page.gridcolumns[i]);
         whole += pixels;
-        t.style += id + " tr>:nth-child(" + std::to_string(i + 1) + "){width:" + std::to_string(pixels) + (pixels < narrowestPadded ? "px;padding:0}\n" : "px}\n");
+        t.style += id + " tr>:nth-child(" + std::to_string(i + 1) + "){width:" + std::to_string(pixels) +
+                   (pixels < narrowestPadded ? "px;padding:0}\n" : "px}\n");
     }
     t.style += id + " tr>*{height:" + std::to_string(row) + "px}\n";
     t.style += id + " table{width:" + (columns > 0 ? std::to_string(whole) + "px" : "100%") + "}\n";
