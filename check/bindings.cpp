@@ -132,11 +132,11 @@ void findTransfers(const Checked &checked, const Report &report)
             return;
         const std::string &name = action.values.front();
         const auto named = names.find(upperCase(name));
-        const auto kind = named == names.end() ? std::nullopt : kindOf(recordAt(checked.page, named->second).kind);
+        const std::int16_t code = named == names.end() ? std::int16_t{0} : recordAt(checked.page, named->second).kind;
         const std::string what = action.code == action::downloadFile ? "the download" : "the upload";
         if (name.empty())
             report(object, what + " names nothing");
-        else if (kind != Kind::File && kind != Kind::ImageDb)
+        else if (code != static_cast<std::int16_t>(Kind::File) && code != static_cast<std::int16_t>(Kind::ImageDb))
             report(object, what + " names \"" + name + "\", which is no File and no Image DB object");
     });
 }

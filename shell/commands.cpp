@@ -168,6 +168,8 @@ bool commandEnabled(Command command)
     case Command::TabOrder: return hasTabNumbers();
     case Command::SharedProperties: return rooms.openSharedProperties && chosenObjects().size() > 1;
     case Command::AddKind: return true;
+    case Command::CheckPage: return bool(rooms.checkPage);
+    case Command::Preview: return bool(rooms.preview);
     }
     return false;
 }
@@ -234,6 +236,8 @@ void runCommand(Command command)
     case Command::SelectAll: selectAllObjects(); break;
     case Command::TabOrder: startTabOrder(); break;
     case Command::SharedProperties: tell(rooms.openSharedProperties); break;
+    case Command::CheckPage: tell(rooms.checkPage); break;
+    case Command::Preview: tell(rooms.preview); break;
     case Command::BringToFront: restack(true); break;
     case Command::SendToBack: restack(false); break;
     }

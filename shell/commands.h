@@ -22,6 +22,7 @@ struct RoomCommands {
     std::function<void()> helpContents, helpSearch;
     std::function<void()> about;
     std::function<void()> openSharedProperties; // of the multi-selection
+    std::function<void()> checkPage, preview;
 };
 
 RoomCommands &roomCommands();

@@ -74,6 +74,8 @@ constexpr MenuRow contextRows[] = {
     {"cprops", "Prop&erties...", 0, Command::ObjectProperties, ""},
     {"cshared", "Properties of &Many...", 0, Command::SharedProperties, ""},
     {"cpageprops", "Pa&ge Properties...", 0, Command::PageProperties, ""},
+    {"ccheck", "Chec&k Page", 0, Command::CheckPage, ""},
+    {"cpreview", "Previe&w in Browser", 0, Command::Preview, ""},
 };
 
 constexpr ToolbarRow toolbarRows[] = {

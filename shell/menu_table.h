@@ -46,6 +46,8 @@ enum class Command {
     SharedProperties, // of two objects or more
     BringToFront,
     SendToBack,
+    CheckPage,
+    Preview,
     AddKind // one item per kind; runs at the pointer
 };
 

@@ -23,7 +23,7 @@ constexpr Command keyCommands[] = {Command::Undo,      Command::Redo,
                                    Command::Cut,       Command::Copy,
                                    Command::Paste,     Command::DuplicateObjects,
                                    Command::SelectAll, Command::SharedProperties,
-                                   Command::TabOrder};
+                                   Command::TabOrder,  Command::Preview};
 
 void runEnabled(Command command)
 {
@@ -48,6 +48,7 @@ QList<QKeySequence> shortcutsOf(Command command)
     case Command::Paste: return {QKeySequence("Ctrl+V")};
     case Command::DuplicateObjects: return {QKeySequence("Ctrl+D")};
     case Command::SelectAll: return {QKeySequence("Ctrl+A")};
+    case Command::Preview: return {QKeySequence("Ctrl+R")};
     case Command::TabOrder: return {QKeySequence("Ctrl+T")};
     case Command::SharedProperties: return {QKeySequence("Ctrl+Return"), QKeySequence("Ctrl+Enter")};
     default: return {};

@@ -1,5 +1,6 @@
 #include "shell/ui/objlist.h"
 
+#include "canvas/events.h"
 #include "document/page.h"
 #include "platform/qt/dialogs.h"
 #include "platform/qt/text.h"
@@ -9,6 +10,7 @@
 
 #include <QEvent>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSignalBlocker>
@@ -19,8 +21,8 @@ namespace corvanta {
 
 namespace {
 
-constexpr QSize listSize(360, 300); // pixels
-constexpr int nameWidth = 170, numberWidth = 80;
+constexpr QSize listSize(620, 300); // pixels
+constexpr int nameWidth = 130, numberWidth = 60, columnWidth = 170;
 
 Objlist *theList = nullptr;
 
@@ -29,12 +31,14 @@ QTreeWidget *newList(QWidget *parent)
     auto *list = new QTreeWidget(parent);
     list->setObjectName(QStringLiteral("olist"));
     list->setAccessibleName(QStringLiteral("Object List"));
-    list->setHeaderLabels({"Object type", "Top", "Left"});
+    list->setHeaderLabels({"Object type", "Top", "Left", "Data column", "Caption"});
     list->setRootIsDecorated(false);
     list->setUniformRowHeights(true);
     list->setMinimumSize(listSize);
     list->setColumnWidth(0, nameWidth);
     list->setColumnWidth(1, numberWidth);
+    list->setColumnWidth(2, numberWidth);
+    list->setColumnWidth(3, columnWidth);
     list->setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
     for (int column : {1, 2})
         list->headerItem()->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
@@ -46,7 +50,9 @@ QTreeWidgetItem *listItem(std::int16_t index)
 {
     const QStringList texts =
         toQString(objectListRow(page(), index)).replace(QStringLiteral("\t\t"), QStringLiteral("\t")).split('\t');
-    auto *item = new QTreeWidgetItem(texts);
+    const ObjectListDetails details = objectListDetails(page(), index);
+    auto *item = new QTreeWidgetItem(texts + QStringList{toQString(details.column), toQString(details.caption)});
+    item->setData(0, Qt::UserRole, index);
     for (int column : {1, 2})
         item->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
     return item;
@@ -58,8 +64,16 @@ Objlist::Objlist()
 {
     theList = this;
     QVBoxLayout *contents = startDialog(*this, "objlist", QStringLiteral("Object List"));
+    filter = new QLineEdit(this);
+    filter->setObjectName(QStringLiteral("filter"));
+    filter->setAccessibleName(QStringLiteral("Filter"));
+    filter->setPlaceholderText(QStringLiteral("Filter"));
+    filter->setClearButtonEnabled(true);
+    contents->addWidget(filter);
     olist = newList(this);
     contents->addWidget(olist, 1);
+    connect(filter, &QLineEdit::textChanged, this, [this] { fill(); });
+    following = canvasEvents().currentChanged.connect([this] { follow(); });
     const auto buttons = addButtons(*this, {{"selbut", "OK", [this] { accept(); }},
                                             {"propbut", "&Properties...", [this] { openProperties(); }},
                                             {"delbut", "&Delete", [this] {
@@ -86,10 +100,22 @@ void Objlist::fill()
     const int first = olist->verticalScrollBar()->value();
     olist->clear();
     for (std::int16_t i = 0; i < objectCount(page()); ++i)
-        olist->addTopLevelItem(listItem(i));
-    if (hasObject(page(), editing().curobj))
-        olist->setCurrentItem(olist->topLevelItem(editing().curobj));
+        if (listedUnder(page(), i, toBytes(filter->text())))
+            olist->addTopLevelItem(listItem(i));
     olist->verticalScrollBar()->setValue(first);
+    follow();
+}
+
+// The row of the object that is current on the canvas is selected.
+void Objlist::follow()
+{
+    const QSignalBlocker quiet(olist);
+    QTreeWidgetItem *current = nullptr;
+    for (int row = 0; row < olist->topLevelItemCount(); ++row)
+        if (olist->topLevelItem(row)->data(0, Qt::UserRole).toInt() == editing().curobj)
+            current = olist->topLevelItem(row);
+    if (current != olist->currentItem() || !current)
+        olist->setCurrentItem(current);
     refreshButtons();
 }
 
@@ -103,7 +129,7 @@ void Objlist::changeEvent(QEvent *event)
 int Objlist::selectedRow() const
 {
     const auto selected = olist->selectedItems();
-    return selected.isEmpty() ? -1 : olist->indexOfTopLevelItem(selected.front());
+    return selected.isEmpty() ? -1 : selected.front()->data(0, Qt::UserRole).toInt();
 }
 
 void Objlist::openProperties()

@@ -1,7 +1,10 @@
 #pragma once
 
+#include "platform/event.h"
+
 #include <QDialog>
 
+class QLineEdit;
 class QPushButton;
 class QTreeWidget;
 
@@ -20,10 +23,13 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    int selectedRow() const; // -1 for none
+    int selectedRow() const; // object index; -1 for none
     void openProperties();
     void refreshButtons();
+    void follow();
 
+    QLineEdit *filter = nullptr;
+    EventConnection following; // of the canvas's current object
     QTreeWidget *olist = nullptr;
     QPushButton *propbut = nullptr, *delbut = nullptr;
 };

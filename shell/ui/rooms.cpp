@@ -10,9 +10,11 @@
 #include "shell/clipboard.h"
 #include "shell/commands.h"
 #include "shell/ui/aniply.h"
+#include "shell/ui/checkpg.h"
 #include "shell/ui/hpsedit.h"
 #include "shell/ui/icons.h"
 #include "shell/ui/places.h"
+#include "shell/ui/preview_process.h"
 #include "shell/ui/startup.h"
 
 namespace corvanta {
@@ -39,6 +41,8 @@ Rooms::Rooms(EditorWindows &windows) : editor(windows)
         });
     };
     commands.openSharedProperties = [] { OpenSharedProperties(chosenObjects()); };
+    commands.checkPage = [this] { showPageCheck(editor.canvas()); };
+    commands.preview = previewInBrowser;
     commands.exportHtml = ConvertToHtml;
     commands.playAnimation = [this] { showPlayer(editor.main(), *editor.canvas()); };
     commands.toggleOdbc = [this](bool shown) { showOdbc(shown); };
@@ -52,6 +56,7 @@ Rooms::~Rooms()
     commands.openObjectProperties = {};
     commands.openPageProperties = {};
     commands.openSharedProperties = {};
+    commands.checkPage = commands.preview = {};
     commands.exportHtml = {};
     commands.playAnimation = {};
     commands.toggleOdbc = {};
