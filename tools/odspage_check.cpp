@@ -82,10 +82,13 @@ std::optional<Page> checkFile(Checking &checking, const std::string &file, const
     std::optional<Page> p(std::in_place);
     parsePage(*p, content.bytes);
     const bool whole = serialisePage(*p) == content.bytes;
+    if (!whole && p->pgversion == currentVersion) { // what else would be found says nothing
+        if (!choice.leavesOut(damagedRule))
+            checking.add(file, {noObject, damagedRule, "the bytes end too early, or saving would change them"});
+        return p;
+    }
     if (checking.arguments.fix && whole)
         fix(checking, file, content.bytes, *p, folder);
-    if (!whole && p->pgversion == currentVersion && !choice.leavesOut(damagedRule))
-        checking.add(file, {noObject, damagedRule, "the bytes end too early, or saving would change them"});
     if (checking.arguments.sizes)
         printSizes(checking.run, file, *p);
     checkLoaded(checking, file, *p, folder, choice);

@@ -55,14 +55,6 @@ Json sarifResult(const FileFinding &found)
             {"locations", Json::array({location})}};
 }
 
-// In one line, whatever a page's texts hold.
-std::string oneLine(std::string text)
-{
-    std::replace_if(
-        text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < ' ' || c == 127; }, ' ');
-    return text;
-}
-
 } // namespace
 
 void printFindings(ToolRun &run, const std::vector<FileFinding> &findings)

@@ -8,6 +8,7 @@
 #include <CLI/Config.hpp>
 #include <CLI/Formatter.hpp>
 
+#include <algorithm>
 #include <array>
 #include <fstream>
 
@@ -18,7 +19,8 @@ namespace {
 using AddCommand = void (*)(CLI::App &app, ToolRun &run);
 
 constexpr AddCommand commands[] = {
-    addDumpCommand, addBuildCommand, addSqlCommand, addHtmlCommand, addCheckCommand, addPreviewCommand,
+    addDumpCommand,  addBuildCommand,    addSqlCommand,    addHtmlCommand, addCheckCommand, addDiffCommand,
+    addMergeCommand, addGitSetupCommand, addRenameCommand, addUsesCommand, addGraphCommand, addPreviewCommand,
 };
 
 constexpr int usualCodePage = 1252, wrongUsage = 2;
@@ -66,6 +68,13 @@ std::string writeStream(std::ostream &stream, std::string_view bytes)
 void complain(ToolRun &run, std::string_view file, std::string_view text)
 {
     run.err << "odspage: " << file << ": " << text << '\n';
+}
+
+std::string oneLine(std::string text)
+{
+    std::replace_if(
+        text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < ' ' || c == 127; }, ' ');
+    return text;
 }
 
 std::string readInput(ToolRun &run, const std::string &file)

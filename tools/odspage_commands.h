@@ -26,6 +26,9 @@ int runOdspage(int argc, const char *const *argv, std::ostream &out, std::ostrea
 // One line on the error stream: "odspage: " and what is said.
 void complain(ToolRun &run, std::string_view file, std::string_view text);
 
+// A text in one line, whatever a page's texts hold.
+std::string oneLine(std::string text);
+
 // The bytes of a page or object file by its host name; empty after a failure, which has been said.
 std::string readInput(ToolRun &run, const std::string &file);
 // The same of a file that must be a page.
@@ -42,6 +45,12 @@ void addBuildCommand(CLI::App &app, ToolRun &run);
 void addSqlCommand(CLI::App &app, ToolRun &run);
 void addHtmlCommand(CLI::App &app, ToolRun &run);
 void addCheckCommand(CLI::App &app, ToolRun &run);
+void addDiffCommand(CLI::App &app, ToolRun &run);
+void addMergeCommand(CLI::App &app, ToolRun &run);
+void addGitSetupCommand(CLI::App &app, ToolRun &run);
+void addRenameCommand(CLI::App &app, ToolRun &run);
+void addUsesCommand(CLI::App &app, ToolRun &run);
+void addGraphCommand(CLI::App &app, ToolRun &run);
 void addPreviewCommand(CLI::App &app, ToolRun &run);
 
 } // namespace corvanta

@@ -98,7 +98,7 @@ protected:
         p.dbconnect = "x\ty\tz\t";
         scratch.write("pages/query.ods", serialisePage(p));
         scratch.write("pages/alone.ods", hostBytes(sampleFolder + "view.ods"));
-        scratch.write("pages/cut.ods", hostBytes(sampleFolder + "view.ods").substr(0, 900));
+        scratch.write("pages/cut.ods", hostBytes(sampleFolder + "view.ods").substr(0, 400));
     }
     std::string lines(std::vector<std::string> options)
     {
