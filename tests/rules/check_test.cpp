@@ -36,8 +36,6 @@ const std::vector<Fault> faults{
     {"zero-size", 7, [](Page &p) { object(p, 7).pwidth = 0; }},
     {"covered", 8,
      [](Page &p) {
-         p.lbl[6].BackStyle = 1;
-         (void)object(p, 8);
          object(p, 9).pleft = 0;
          object(p, 9).pwidth = 240;
      }},
