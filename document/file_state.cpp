@@ -32,6 +32,13 @@ void rememberFile(const std::string &path)
     remembered = {path, path.empty() ? std::nullopt : fileStamp(path), std::nullopt, {}};
 }
 
+void rememberFile(const std::string &path, const std::string &stamp)
+{
+    remembered = {path, stampOfText(stamp), std::nullopt, {}};
+}
+
+std::string rememberedStamp() { return remembered.stamp ? textOfStamp(*remembered.stamp) : std::string(); }
+
 const PageDamage &fileDamage() { return remembered.damage; }
 
 void noteDamage(PageDamage damage) { remembered.damage = std::move(damage); }
@@ -76,9 +83,12 @@ SaveTarget saveTarget(const std::string &filetag)
 
 SaveChoice mayReplace(const std::string &path)
 {
-    if (!fileIsAnother(path))
+    const bool elsewhere = remembered.stamp && samePath(path, remembered.path) && !onDevice(path, *remembered.stamp);
+    if (!fileIsAnother(path) && !elsewhere)
         return SaveChoice::Save;
-    return static_cast<SaveChoice>(askChoice({.text = "Another program has changed " + path + " since it was read.",
+    const std::string changed = "Another program has changed " + path + " since it was read.";
+    const std::string gone = "The medium that " + path + " was read from is gone.";
+    return static_cast<SaveChoice>(askChoice({.text = elsewhere ? gone : changed,
                                               .title = savingFile,
                                               .captions = {"&Overwrite", "Save &elsewhere...", "Cancel"}}));
 }

@@ -9,6 +9,9 @@ namespace corvanta {
 
 // After reading or writing the page's file, by drive path; an empty path for a new page.
 void rememberFile(const std::string &path);
+// The same for a recovered page, with what rememberedStamp gave before.
+void rememberFile(const std::string &path, const std::string &stamp);
+std::string rememberedStamp(); // as text; empty for none
 
 // What saving would lose of the file as it was opened.
 const PageDamage &fileDamage();

@@ -126,7 +126,7 @@ void startHistory()
 
 void stopHistory() { history() = {}; }
 
-void resetHistory()
+void resetHistory(FirstState first)
 {
     History &h = history();
     for (Step &step : h.steps) { // they hold the data source's password
@@ -137,7 +137,8 @@ void resetHistory()
     h.steps.clear();
     h.memory = 0;
     push(present(""));
-    h.saved = h.steps.back().bytes;
+    if (first == FirstState::Saved)
+        h.saved = h.steps.back().bytes;
 }
 
 void markHistorySaved()

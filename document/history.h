@@ -14,8 +14,9 @@ inline constexpr std::size_t historySteps = 500, historyBytes = 64 << 20; // the
 void startHistory();
 void stopHistory();
 
-// The page was opened or is new: nothing can be undone. It counts as saved.
-void resetHistory();
+// The page was opened or is new: nothing can be undone. It counts as saved, unless it was recovered.
+enum class FirstState { Saved, Unsaved };
+void resetHistory(FirstState first = FirstState::Saved);
 // The page was saved as it is: this state is the one that is not dirty.
 void markHistorySaved();
 

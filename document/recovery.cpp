@@ -2,6 +2,8 @@
 
 #include "document/encoding.h"
 #include "document/events.h"
+#include "document/file_state.h"
+#include "document/history.h"
 #include "document/media.h"
 #include "document/page.h"
 #include "document/page_file.h"
@@ -16,6 +18,7 @@
 #include <fcntl.h>
 #include <optional>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace corvanta {
@@ -45,7 +48,9 @@ std::shared_ptr<void> lockOf(fs::path file, int flags)
     const int fd = open(file.c_str(), flags | O_RDWR | O_CLOEXEC | O_NOFOLLOW, 0600);
     if (fd < 0)
         return {};
-    if (flock(fd, LOCK_EX | LOCK_NB) != 0) {
+    struct stat locked, named; // another editor may have removed the file since it was opened
+    if (flock(fd, LOCK_EX | LOCK_NB) != 0 || fstat(fd, &locked) != 0 || stat(file.c_str(), &named) != 0 ||
+        locked.st_ino != named.st_ino) {
         close(fd);
         return {};
     }
@@ -90,7 +95,8 @@ std::string recoveryText()
 {
     const std::int64_t now = std::time(nullptr);
     return std::string(magic) + encodeString(editing().filetag) + encodeString(editing().curdir) +
-           encodeInt32(static_cast<std::int32_t>(now >> 32)) + encodeInt32(static_cast<std::int32_t>(now)) + pageText();
+           encodeString(rememberedStamp()) + encodeInt32(static_cast<std::int32_t>(now >> 32)) +
+           encodeInt32(static_cast<std::int32_t>(now)) + pageText();
 }
 
 void update()
@@ -131,6 +137,7 @@ std::optional<LostPage> readLost(const fs::path &file)
     LostPage lost;
     lost.filetag = decodeString(text);
     lost.curdir = decodeString(text);
+    lost.stamp = decodeString(text);
     const auto high = static_cast<std::uint32_t>(decodeInt32(text)),
                low = static_cast<std::uint32_t>(decodeInt32(text));
     lost.time = static_cast<std::int64_t>(std::uint64_t{high} << 32 | low);
@@ -231,8 +238,10 @@ void recoverPage(const LostPage &lost)
     editing().curdir = lost.curdir;
     documentEvents().fileChanged();
     parsePage(page(), lost.bytes);
+    rememberFile(lost.filetag, lost.stamp);
     loadPageMedia();
-    pageEdited("Recover");
+    editing().pagedirty = true;
+    resetHistory(FirstState::Unsaved); // there is nothing before it that could be meant
     flushRecovery();
     removeFiles(lost.file);
 }

@@ -31,6 +31,7 @@ void stopRecovery(RecoveryFile file);
 struct LostPage {
     std::string filetag;   // drive path of its file; empty for a new page
     std::string curdir;    // its page directory
+    std::string stamp;     // what its file was when the dead editor last read or wrote it
     std::int64_t time = 0; // when it was written, seconds since 1970
     std::string bytes;     // of the page
     std::filesystem::path file;

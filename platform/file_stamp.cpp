@@ -3,6 +3,7 @@
 #include "platform/files.h"
 #include "platform/paths.h"
 
+#include <sstream>
 #include <sys/stat.h>
 
 namespace corvanta {
@@ -38,6 +39,27 @@ bool sameFile(const FileStamp &a, const FileStamp &b)
 {
     const bool untouched = a.inode == b.inode && a.time == b.time;
     return a.device == b.device && a.size == b.size && (a.hash == b.hash || (untouched && a.size > hashedBytes));
+}
+
+bool onDevice(std::string_view drivePath, const FileStamp &stamp)
+{
+    struct ::stat folder;
+    return ::stat(hostPath(drivePath).parent_path().c_str(), &folder) != 0 || folder.st_dev == stamp.device;
+}
+
+std::string textOfStamp(const FileStamp &stamp)
+{
+    std::ostringstream text;
+    text << stamp.device << ' ' << stamp.inode << ' ' << stamp.time << ' ' << stamp.size << ' ' << stamp.hash;
+    return text.str();
+}
+
+std::optional<FileStamp> stampOfText(const std::string &text)
+{
+    FileStamp stamp;
+    std::istringstream in(text);
+    const bool whole = bool(in >> stamp.device >> stamp.inode >> stamp.time >> stamp.size >> stamp.hash);
+    return whole ? std::optional(stamp) : std::nullopt;
 }
 
 } // namespace corvanta

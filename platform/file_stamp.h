@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace corvanta {
@@ -19,5 +20,12 @@ std::optional<FileStamp> fileStamp(std::string_view drivePath);
 
 // Whether two stamps stand for the same bytes on the same device; a file that was only touched counts as the same.
 bool sameFile(const FileStamp &a, const FileStamp &b);
+
+// Whether the folder of a path still lies on a stamp's device; true when there is no such folder.
+bool onDevice(std::string_view drivePath, const FileStamp &stamp);
+
+// A stamp as text, and back; none for a text that is no stamp.
+std::string textOfStamp(const FileStamp &stamp);
+std::optional<FileStamp> stampOfText(const std::string &text);
 
 } // namespace corvanta

@@ -28,7 +28,7 @@ const httplib::Headers securityHeaders = {
     {"Cross-Origin-Resource-Policy", "same-origin"},
     {"Cross-Origin-Opener-Policy", "same-origin"},
     {"Content-Security-Policy", "default-src 'none'; script-src 'self'; style-src 'self' 'unsafe-inline'; "
-                                "img-src 'self' http: https:; media-src 'self'; connect-src 'self'; "
+                                "img-src 'self' data: http: https:; media-src 'self'; connect-src 'self'; "
                                 "form-action 'self'; base-uri 'none'; frame-ancestors 'none'"},
 };
 

@@ -159,6 +159,12 @@ void startSession(std::string_view argument)
     openPage(file.directory + file.name);
 }
 
+void keepSession()
+{
+    flushRecovery();
+    storeSettings();
+}
+
 void interruptSession()
 {
     stopRecovery(RecoveryFile::Keep);

@@ -33,6 +33,9 @@ CommandLineFile commandLineFile(std::string_view argument);
 // loads and shows the canvas window.
 void startSession(std::string_view argument);
 
+// The session manager may end the session: settings and changes are stored, and it goes on for now.
+void keepSession();
+
 // The system ends the program: the settings are stored, and the recovery file of a page with changes is kept. Nobody is
 // asked. endSession follows.
 void interruptSession();

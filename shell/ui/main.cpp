@@ -1,4 +1,3 @@
-#include "document/recovery.h"
 #include "platform/codepage.h"
 #include "platform/files.h"
 #include "shell/session.h"
@@ -63,7 +62,7 @@ int main(int argc, char **argv)
         interruptSession();
         QApplication::exit(0); // out of every dialog, without asking the windows; their session ends below
     });
-    QObject::connect(&application, &QGuiApplication::commitDataRequest, &application, flushRecovery,
+    QObject::connect(&application, &QGuiApplication::commitDataRequest, &application, keepSession,
                      Qt::DirectConnection);
     windows.start(line.pageFile);
     const int code = QApplication::exec();

@@ -105,6 +105,7 @@ TEST_F(Recovery, WhatADeadEditorLeftIsOffered)
     EXPECT_TRUE(lostPages(folder()).empty()) << "it is being offered";
     lost.clear();
 
+    const auto scripted = asking().choice;
     const auto offered = [&user](std::size_t answer) {
         asking().choice = [answer](const MessageBox &box) {
             EXPECT_EQ(box.captions, (std::vector<std::string>{"&Recover", "&Discard", "&Later"}));
@@ -119,6 +120,12 @@ TEST_F(Recovery, WhatADeadEditorLeftIsOffered)
     EXPECT_EQ(page().pgcaption, "lost");
     EXPECT_EQ(editing().filetag, "C:\\MENU.ODS");
     EXPECT_TRUE(editing().pagedirty);
+    EXPECT_FALSE(undoEdit()) << "there is nothing before it";
+    drive.add("MENU.ODS", "theirs");
+    user.expectChoice("Another program has changed C:\\MENU.ODS since it was read.", "Saving File",
+                      "&Overwrite|Save &elsewhere...|Cancel", 2);
+    asking().choice = scripted;
+    EXPECT_FALSE(savePage());
     EXPECT_EQ(files(".page").size(), 1U) << "its own recovery file now";
     stopRecovery(RecoveryFile::Remove);
     leaveALostPage("again");
