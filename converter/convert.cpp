@@ -37,6 +37,9 @@ std::string convert(const fs::path &pageFile)
         return "the name is too short for that of a page file";
     if (isSameFile(target, pageFile))
         return "the template would replace the page itself";
+    std::error_code none;
+    if (fs::is_symlink(target, none)) // it may lead to another page, or to anything
+        return "the template would be written through a link";
     Page p;
     parsePage(p, file.bytes);
     const fs::path folder = pageFile.has_parent_path() ? pageFile.parent_path() : fs::path(".");

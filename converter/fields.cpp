@@ -93,7 +93,10 @@ std::string fileText(const Template &t, std::int16_t index)
     const std::string name = nameAlone(recordOf(t, index).srcfile);
     if (t.folder.empty() || name.empty())
         return t.page.tbx[elementNumber(t, index)].Caption;
-    std::string text = readHostFile(fileIn(t.folder, name), textFileLimit).bytes;
+    const std::filesystem::path file = fileIn(t.folder, name);
+    if (!liesIn(t.folder, file)) // a link that leads out of the directory
+        return {};
+    std::string text = readHostFile(file, textFileLimit).bytes;
     std::erase(text, '\x1A');
     return text;
 }

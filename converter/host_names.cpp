@@ -47,4 +47,12 @@ std::filesystem::path hostFile(std::string_view drivePath)
     return hostPath(fullPath(drivePath));
 }
 
+bool liesIn(const std::filesystem::path &folder, const std::filesystem::path &file)
+{
+    std::error_code unknown, noFolder;
+    const std::filesystem::path real = std::filesystem::canonical(file, unknown);
+    const std::filesystem::path home = std::filesystem::canonical(folder.empty() ? "." : folder, noFolder);
+    return !unknown && !noFolder && real.parent_path() == home;
+}
+
 } // namespace corvanta

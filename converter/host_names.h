@@ -12,4 +12,7 @@ std::filesystem::path fileIn(const std::filesystem::path &folder, std::string_vi
 // The host path of a drive path. A relative one starts from the process's current directory as it is now.
 std::filesystem::path hostFile(std::string_view drivePath);
 
+// Whether a file, its links followed, lies directly in a folder.
+bool liesIn(const std::filesystem::path &folder, const std::filesystem::path &file);
+
 } // namespace corvanta

@@ -25,17 +25,30 @@ std::string failureOf(const char *path, int codePage)
 
 } // namespace
 
-extern "C" std::int16_t ConvertOdsHts(const char *path) { return ConvertOdsHtsCodePage(path, codePageOfEnvironment()); }
+// No exception passes to the caller, who may be of another language.
+static std::int16_t convertedWith(const char *path, std::int32_t (*codePage)(std::int32_t), std::int32_t asked) noexcept
+{
+    try {
+        lastFailure.clear();
+        lastFailure = failureOf(path, codePage(asked));
+        return lastFailure.empty() ? 1 : 0;
+    } catch (const std::exception &) {
+        return lastFailure.assign("out of memory"), 0; // fits without another allocation
+    } catch (...) {
+        return 0;
+    }
+}
+
+extern "C" std::int16_t ConvertOdsHts(const char *path)
+{
+    return convertedWith(
+        path, [](std::int32_t) { return codePageOfEnvironment(); }, 0);
+}
 
 extern "C" std::int16_t ConvertOdsHtsCodePage(const char *path, std::int32_t codePage)
 {
-    lastFailure.clear();
-    try {
-        lastFailure = failureOf(path, codePage);
-    } catch (const std::exception &error) { // the caller may be of another language
-        lastFailure = error.what();
-    }
-    return lastFailure.empty() ? 1 : 0;
+    return convertedWith(
+        path, [](std::int32_t asked) { return asked; }, codePage);
 }
 
 extern "C" const char *ConvertOdsHtsMessage() { return lastFailure.c_str(); }

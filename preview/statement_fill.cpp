@@ -281,16 +281,8 @@ bool isOneSelect(std::string_view statement)
         statement.remove_suffix(1);
     const bool select = sameText(statement.substr(0, 6), "select") && statement.size() > 6 &&
                         !std::isalnum(static_cast<unsigned char>(statement[6]));
-    char mark = 0;
-    for (const char c : statement) {
-        if (mark != 0)
-            mark = c == mark ? '\0' : mark;
-        else if (c == '\'' || c == '"')
-            mark = c;
-        else if (c == ';')
-            return false;
-    }
-    return select;
+    // Databases differ in what begins and ends a literal or a comment: a ";" is refused wherever it stands.
+    return select && statement.find(';') == std::string_view::npos;
 }
 
 } // namespace corvanta

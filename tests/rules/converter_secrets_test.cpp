@@ -2,6 +2,7 @@
 
 #include "converter/convert.h"
 #include "converter/ods2hts.h"
+#include "document/encoding.h"
 #include "document/page_file.h"
 #include "tests/support/samples.h"
 #include "tests/support/temporary_drive.h"
@@ -113,6 +114,22 @@ TEST(ConverterFile, TheTemplateIsWrittenBesideThePage)
         EXPECT_FALSE(holds(html, secret)) << secret;
 }
 
+TEST(ConverterFile, ATextFileThatLeadsOutOfTheDirectoryStaysOut)
+{
+    const TemporaryDrive drive;
+    drive.add("secret", "TOPSECRET");
+    drive.add("PAGES/note.txt", "a note");
+    std::filesystem::create_symlink("../secret", drive.root() / "PAGES/link.txt");
+    for (const char *name : {"note.txt", "link.txt"}) {
+        Page p;
+        createVisual(p, encodeInt16(static_cast<std::int16_t>(Kind::TextBox)));
+        p.objects[0].srcfile = name;
+        const std::string html = htmlTemplate(p, drive.root() / "PAGES");
+        EXPECT_EQ(holds(html, "a note"), std::string(name) == "note.txt");
+        EXPECT_FALSE(holds(html, "TOPSECRET"));
+    }
+}
+
 TEST(ConverterFile, FailuresWriteNothing)
 {
     const TemporaryDrive drive;
@@ -126,7 +143,10 @@ TEST(ConverterFile, FailuresWriteNothing)
     drive.add("PAGES/CUT.ODS", menu.substr(0, 20));
     drive.add("PAGES/A", menu);
     std::filesystem::create_symlink("LINKED.ODS", drive.root() / "PAGES/LINKED.hts");
+    drive.add("PAGES/OTHER.ODS", menu);
+    std::filesystem::create_symlink("A", drive.root() / "PAGES/OTHER.hts");
     const std::pair<const char *, const char *> failures[] = {
+        {"C:\\PAGES\\OTHER.ODS", "the template would be written through a link"},
         {"C:\\PAGES\\LARGE.ODS", "more than 16384 bytes"},
         {"C:\\PAGES\\EMPTY.ODS", "the file is empty"},
         {"C:/PAGES/NONE.ODS", "no such file"},

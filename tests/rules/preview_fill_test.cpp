@@ -86,10 +86,10 @@ TEST_F(PreviewFill, ValuesAreBoundOrNothingButNumbersDatesAndComparisons)
 
 TEST_F(PreviewFill, OnlyOneSelectIsAQuery)
 {
-    for (const char *good : {"select 1", " Select ';' ;\n", "SELECT \"a;b\" From t"})
+    for (const char *good : {"select 1", " Select '' ;\n", "SELECT \"a b\" From t"})
         EXPECT_TRUE(isOneSelect(good)) << good;
-    for (const char *bad :
-         {"", "Selectx", "Delete From t", "Select 1; Delete From t", "With x As (Delete From t) Select 1"})
+    for (const char *bad : {"", "Selectx", "Delete From t", "Select 1; Delete From t",
+                            "Select 1 -- '\n; Commit; Delete From t", "With x As (Delete From t) Select 1"})
         EXPECT_FALSE(isOneSelect(bad)) << bad;
 }
 
