@@ -205,6 +205,8 @@ private:
         case ValueClass::Number:
             if (!value.empty() && !isNumber(value))
                 return fail(found.object, "is no number.");
+            if (!value.empty() && isPasswordField(p, found.object)) // a bound value is not shown
+                return bindText(value, true);
             // A sign behind a "-" would begin a comment.
             out += value.empty() ? "NULL" : isDigit(value.front()) ? value : "(" + value + ")";
             return;
@@ -266,8 +268,12 @@ std::string filledText(const Page &p, std::string_view text, const ObjectValues 
     std::string filled;
     while (!text.empty()) {
         const Placeholder found = placeholderAt(p, text);
-        filled += found.length > 0 ? values[static_cast<std::size_t>(found.object)].value_or(std::string())
-                                   : toUtf8(text.substr(0, 1));
+        if (found.length == 0)
+            filled += toUtf8(text.substr(0, 1));
+        else if (isPasswordField(p, found.object))
+            filled += "•••"; // what is told stays on the screen
+        else
+            filled += values[static_cast<std::size_t>(found.object)].value_or(std::string());
         text.remove_prefix(std::max<std::size_t>(found.length, 1));
     }
     return filled;
