@@ -70,6 +70,40 @@ cmp samples/query.ods "$page" || fail "The other program's file was overwritten"
 kill -9 "$editor_pid"; wait "$editor_pid" 2>/dev/null || true
 rm -rf "$work/state"
 
+echo "A page is not saved into another directory without a question"
+fresh_page
+start_editor "$title" "$page"
+click_at 60 190
+keys Delete
+activate 'Corvanta Form Editor'
+keys alt+o o # Load: its file dialog makes a directory current
+wait_until has_window 'Open'
+xdotool key ctrl+a
+type_text "$PWD/samples/objects/ticker.hdo"
+keys Return
+sleep 0.5
+activate 'Corvanta Form Editor'
+keys ctrl+s
+wait_until has_window 'Saving File'
+keys alt+o
+sleep 0.5
+[ "$(objects "$page")" = "$(objects samples/menu.ods)" ] || fail "The page was not saved where it was opened"
+[ ! -e samples/objects/menu.ods ] || fail "The page was saved into the other directory"
+kill -9 "$editor_pid"; wait "$editor_pid" 2>/dev/null || true
+rm -rf "$work/state"
+
+echo "A file that was cut in half keeps its bytes beside the saved one"
+fresh_page
+head -c 700 samples/menu.ods >"$page"
+start_editor "$title" "$page"
+click_at 60 90
+keys Delete
+save
+sleep 0.5
+cmp <(head -c 700 samples/menu.ods) "$page.bak" || fail "The old bytes are not kept"
+kill -9 "$editor_pid"; wait "$editor_pid" 2>/dev/null || true
+rm -rf "$work/state"
+
 echo "$kills kills at random moments lose nothing older than a second"
 for ((i = 0; i < kills; ++i)); do
   fresh_page
