@@ -105,6 +105,19 @@ kill -9 "$editor_pid"; wait "$editor_pid" 2>/dev/null || true
 rm -rf "$work/state"
 
 echo "$kills kills at random moments lose nothing older than a second"
+duplicate_and_save() { # FILE: what the page is after one more duplicate
+  focus_canvas
+  keys ctrl+d
+  save
+  cp "$page" "$1"
+}
+fresh_page
+start_editor "$title" "$page"
+click_at 60 150
+duplicate_and_save "$work/once.ods"
+duplicate_and_save "$work/twice.ods"
+end_editor
+recovered=0
 for ((i = 0; i < kills; ++i)); do
   fresh_page
   start_editor "$title" "$page"
@@ -119,15 +132,15 @@ for ((i = 0; i < kills; ++i)); do
   cmp samples/menu.ods "$page" || fail "A kill changed the file"
   [ $age -lt 1000 ] || recovery_file || fail "An edit $age ms before the kill is lost"
   if recovery_file; then
+    recovered=$((recovered + 1))
     start_editor "$title" "$page"
     sleep 0.4
     keys alt+r
     sleep 0.4
     keys ctrl+s
-    now=$(objects "$page") before=$(objects samples/menu.ods)
-    [ "$now" = $((before + 1)) ] || [ "$now" = $((before + 2)) ] || fail "A recovered page has $now objects"
+    cmp -s "$work/once.ods" "$page" || cmp -s "$work/twice.ods" "$page" || fail "The recovered page was never in the editor"
     end_editor
   fi
   rm -rf "$work/state"
 done
-echo "Nothing was lost."
+echo "Nothing was lost; $recovered pages came back byte for byte."
