@@ -271,8 +271,9 @@ bool moveInTable(const std::vector<std::int16_t> &indices, bool toEnd)
     std::vector<std::int16_t> order(static_cast<std::size_t>(objectCount(p)));
     std::iota(order.begin(), order.end(), std::int16_t{0});
     const auto before = order;
-    std::ranges::stable_partition(
-        order, [&](std::int16_t index) { return (std::ranges::find(indices, index) != indices.end()) != toEnd; });
+    std::stable_partition(order.begin(), order.end(), [&](std::int16_t index) {
+        return (std::ranges::find(indices, index) != indices.end()) != toEnd;
+    });
     if (order == before)
         return false;
     const auto objects = p.objects;

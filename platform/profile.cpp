@@ -11,16 +11,6 @@
 #include <optional>
 #include <vector>
 
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wall"
-#pragma GCC diagnostic ignored "-Wextra"
-#pragma GCC diagnostic ignored "-Wpedantic"
-#pragma GCC diagnostic ignored "-Wshadow"
-#define SI_NO_CONVERSION
-#define SI_IMPLEMENTATION
-#include <SimpleIni.h>
-#pragma GCC diagnostic pop
-
 namespace corvanta {
 
 namespace {
@@ -45,25 +35,14 @@ std::filesystem::path &profileFolder()
 
 std::filesystem::path profilePath(std::string_view fileName) { return profileFolder() / toUtf8(fileName); }
 
-// False when there is a file that cannot be read as a profile.
-bool readProfile(std::string_view fileName, CSimpleIniA &ini, std::string &bytes)
+// The bytes of a profile; none when there is a file that cannot be read as one.
+std::optional<std::string> readProfile(std::string_view fileName)
 {
-    const FileContent content = readHostFile(profilePath(fileName), profileLimit);
+    FileContent content = readHostFile(profilePath(fileName), profileLimit);
     if ((!content.error.empty() && !content.missing) || content.tooLarge ||
         content.bytes.find('\0') != std::string::npos)
-        return false;
-    ini.SetUnicode();
-    ini.SetMultiKey();
-    bytes = content.bytes;
-    return ini.LoadData(bytes) >= 0;
-}
-
-std::optional<std::string> storedValue(const CSimpleIniA &ini, std::string_view section, std::string_view key)
-{
-    const char *value = ini.GetValue(toUtf8(section).c_str(), toUtf8(key).c_str());
-    if (value == nullptr)
         return std::nullopt;
-    return trimmed(fromUtf8Lossy(value));
+    return std::move(content.bytes);
 }
 
 // The lines of a text with their ends.
@@ -107,13 +86,15 @@ bool hasKey(std::string_view line, std::string_view key)
     return equals != std::string_view::npos && !name.starts_with(';') && !name.starts_with('#') && sameText(name, key);
 }
 
-// The text with one value set; every other byte stays. The library would write all of it anew, in its own form.
-std::string withValue(std::string_view text, std::string_view section, std::string_view key, std::string_view value)
+// Where a key stands, or would.
+struct KeyPlace {
+    std::optional<std::size_t> line; // of the key
+    std::optional<std::size_t> end;  // after the last line of its section that is not blank
+};
+
+KeyPlace placeOf(const std::vector<std::string> &lines, std::string_view section, std::string_view key)
 {
-    std::vector<std::string> lines = linesOf(text);
-    const std::string end = !lines.empty() && lines.front().ends_with("\r\n") ? "\r\n" : "\n";
-    const auto keyLine = std::string(key) + '=' + std::string(value) + end;
-    std::optional<std::size_t> place; // after the last line of the section that is not blank
+    KeyPlace place;
     bool inside = false;
     for (std::size_t i = 0; i < lines.size(); ++i) {
         if (const auto header = headerOf(lines[i])) {
@@ -121,18 +102,42 @@ std::string withValue(std::string_view text, std::string_view section, std::stri
                 break;
             inside = sameText(*header, section);
         } else if (inside && hasKey(lines[i], key)) {
-            const std::string_view line = lines[i];
-            lines[i] = std::string(line.substr(0, line.find('=') + 1)) + std::string(value) +
-                       std::string(line.substr(withoutEnd(line).size()));
-            return joined(lines);
+            place.line = i;
+            break;
         }
         if (inside && !trimmed(withoutEnd(lines[i])).empty())
-            place = i + 1;
+            place.end = i + 1;
     }
-    if (!lines.empty() && !lines.back().ends_with('\n') && (!place || *place == lines.size()))
+    return place;
+}
+
+std::optional<std::string> storedValue(std::string_view text, std::string_view section, std::string_view key)
+{
+    const std::vector<std::string> lines = linesOf(text);
+    const KeyPlace place = placeOf(lines, section, key);
+    if (!place.line)
+        return std::nullopt;
+    const std::string_view line = lines[*place.line];
+    return trimmed(fromUtf8Lossy(withoutEnd(line.substr(line.find('=') + 1))));
+}
+
+// The text with one value set; every other byte stays.
+std::string withValue(std::string_view text, std::string_view section, std::string_view key, std::string_view value)
+{
+    std::vector<std::string> lines = linesOf(text);
+    const KeyPlace place = placeOf(lines, section, key);
+    if (place.line) {
+        std::string &line = lines[*place.line];
+        const std::size_t start = line.find('=') + 1;
+        line.replace(start, withoutEnd(std::string_view(line).substr(start)).size(), value);
+        return joined(lines);
+    }
+    const std::string end = !lines.empty() && lines.front().ends_with("\r\n") ? "\r\n" : "\n";
+    const auto keyLine = std::string(key) + '=' + std::string(value) + end;
+    if (!lines.empty() && !lines.back().ends_with('\n') && (!place.end || *place.end == lines.size()))
         lines.back() += end;
-    if (place) {
-        lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(*place), keyLine);
+    if (place.end) {
+        lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(*place.end), keyLine);
     } else {
         if (!lines.empty())
             lines.push_back(end);
@@ -149,9 +154,8 @@ void setProfileFolder(const std::string &hostFolder) { profileFolder() = hostFol
 std::string GetPrivateProfileString(std::string_view section, std::string_view key, std::string_view fallback,
                                     std::string_view fileName)
 {
-    CSimpleIniA ini;
-    std::string bytes;
-    const auto value = readProfile(fileName, ini, bytes) ? storedValue(ini, section, key) : std::nullopt;
+    const auto text = readProfile(fileName);
+    const auto value = text ? storedValue(*text, toUtf8(section), toUtf8(key)) : std::nullopt;
     return value.value_or(std::string(fallback));
 }
 
@@ -167,25 +171,19 @@ int GetPrivateProfileInt(std::string_view section, std::string_view key, int fal
 bool WritePrivateProfileString(std::string_view section, std::string_view key, std::string_view value,
                                std::string_view fileName)
 {
-    CSimpleIniA ini;
-    std::string bytes;
-    if (!readProfile(fileName, ini, bytes))
+    const auto before = readProfile(fileName);
+    if (!before)
         return false;
     value = value.substr(0, value.find_first_of(std::string_view("\0\r\n", 3)));
-    if (storedValue(ini, section, key) == trimmed(value))
+    if (storedValue(*before, toUtf8(section), toUtf8(key)) == trimmed(value))
         return true;
-    const std::string text = withValue(bytes, toUtf8(section), toUtf8(key), toUtf8(value));
+    const std::string text = withValue(*before, toUtf8(section), toUtf8(key), toUtf8(value));
     std::error_code error;
     std::filesystem::create_directories(profileFolder(), error);
     return !writeHostFileAtomically(profilePath(fileName), text);
 }
 
-bool profileUsable(std::string_view fileName)
-{
-    CSimpleIniA ini;
-    std::string bytes;
-    return readProfile(fileName, ini, bytes);
-}
+bool profileUsable(std::string_view fileName) { return readProfile(fileName).has_value(); }
 
 std::string profileNumber(int value) { return (value < 0 ? "" : " ") + std::to_string(value); }
 

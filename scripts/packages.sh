@@ -4,7 +4,7 @@ BUILD_PACKAGES=(
   g++ cmake ninja-build ccache pkg-config
   qt6-base-dev qt6-base-dev-tools qt6-tools-dev qt6-documentation-tools libqt6sql6-sqlite
   libgl-dev libsdl2-mixer-dev unixodbc-dev
-  nlohmann-json3-dev libcli11-dev libsimpleini-dev libcpp-httplib-dev libtomlplusplus-dev libgtest-dev libbenchmark-dev
+  nlohmann-json3-dev libcli11-dev libcpp-httplib-dev libtomlplusplus-dev libgtest-dev libbenchmark-dev
 )
 # Needed by the running editor; the second line serves machines without a display.
 RUN_PACKAGES=(
@@ -13,6 +13,9 @@ RUN_PACKAGES=(
 )
 TEST_PACKAGES=(
   clang-format python3 git
+)
+FUZZ_PACKAGES=(
+  clang libclang-rt-14-dev
 )
 # Left out by ./test --quick: servers, browsers, the virtual screen's tools.
 FULL_TEST_PACKAGES=(
