@@ -54,6 +54,11 @@ bool plainFileName(std::string_view name)
     return name.find_first_of(std::string_view("\\/:\0", 4)) == std::string_view::npos && name != "..";
 }
 
+std::string invalidFileName(std::string_view what, std::string_view where)
+{
+    return "Invalid " + std::string(what) + " file name" + std::string(where) + ".  " + changeDirectoryHint;
+}
+
 bool validFileName(std::string_view name)
 {
     const std::string file = trimmed(name);

@@ -12,6 +12,9 @@ namespace corvanta {
 // a page cannot reach outside its directory.
 bool plainFileName(std::string_view name);
 
+// What is told of a name that is not valid: invalidFileName("image"), invalidFileName("sound", " for frame 2").
+std::string invalidFileName(std::string_view what, std::string_view where = {});
+
 // Whether a name, trimmed, is empty or a plain file name that exists in the page directory.
 bool validFileName(std::string_view name);
 

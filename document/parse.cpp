@@ -29,6 +29,13 @@ std::optional<std::int32_t> hexadecimal(std::string_view digits)
 
 bool hasHexPrefix(std::string_view text) { return sameText(text.substr(0, 2), "&H"); }
 
+std::string colourDigits(std::string_view text)
+{
+    std::string digits = trimmed(text);
+    digits.erase(0, hasHexPrefix(digits) ? 2 : digits.starts_with('#') ? 1 : 0);
+    return digits;
+}
+
 } // namespace
 
 std::int16_t ParseInt16Clamped(std::string_view text)
@@ -46,10 +53,31 @@ std::int32_t ParseColourText(std::string_view text)
 {
     if (!hexadecimal(trimmed(text)) && editing().msgflag)
         showMessage({"Overflow", "Long conversion Error", Icon::Information, Buttons::Ok});
-    return colourShown(text);
+    return ParseInt32Clamped("&H" + trimmed(text));
 }
 
-std::int32_t colourShown(std::string_view text) { return ParseInt32Clamped("&H" + trimmed(text)); }
+std::int32_t colourShown(std::string_view text) { return ParseInt32Clamped("&H" + colourDigits(text)); }
+
+bool isColourText(std::string_view text)
+{
+    const std::string digits = colourDigits(text);
+    const bool hexadecimalOnly = digits.find_first_not_of("0123456789ABCDEFabcdef") == std::string::npos;
+    return !digits.empty() && hexadecimalOnly && hexadecimal(digits);
+}
+
+bool CheckColourText(std::string_view text, std::string_view message)
+{
+    const bool valid = isColourText(text);
+    if (!valid)
+        showExclamation(std::string(message) + "  A color is one to eight hexadecimal digits.", "Properties Error");
+    return valid;
+}
+
+std::int32_t changedColour(std::string_view text, std::int32_t before)
+{
+    const bool same = upperCase(colourDigits(text)) == colourText(before);
+    return same || !isColourText(text) ? before : ParseColourText(colourDigits(text));
+}
 
 std::string colourText(std::int32_t colour)
 {

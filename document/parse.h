@@ -18,8 +18,17 @@ std::int32_t ParseInt32Clamped(std::string_view text);
 // set and read as 0.
 std::int32_t ParseColourText(std::string_view text);
 
-// The same without telling, for a text that is being typed.
+// The same without telling, and with "#" or "&H" before the digits, for a text that is being typed.
 std::int32_t colourShown(std::string_view text);
+
+// Whether a text is a colour: hexadecimal digits of at most 32 bits, with or without "#" or "&H" before them.
+bool isColourText(std::string_view text);
+
+// The same, telling when it is not: a message, and what a colour looks like, under "Properties Error".
+bool CheckColourText(std::string_view text, std::string_view message);
+
+// The colour that such a text stands for; the one of before when it still reads so, and when it is none.
+std::int32_t changedColour(std::string_view text, std::int32_t before);
 
 // A colour as upper-case hexadecimal digits without prefix or leading zeros.
 std::string colourText(std::int32_t colour);

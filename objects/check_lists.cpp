@@ -10,48 +10,44 @@ namespace {
 
 constexpr std::size_t entryLimit = 50;
 
-bool refuse(const std::string &text)
+Confirmation refuse(const std::string &text, const char *control, int entry = -1)
 {
     showExclamation(text, "Properties Error");
-    return false;
+    return {false, control, entry};
 }
 
-// The first fault of a frame, or none.
-std::string frameFault(const Frame &frame, const std::string &number)
+// The checks of a frame, stopping at its first fault.
+Confirmation checkFrame(const Frame &frame, int entry)
 {
     const Page &p = page();
-    const auto field = [&](const char *name) {
-        return std::string("Invalid \"") + name + "\" for frame " + number + ".";
-    };
-    const auto file = [&](const char *what) {
-        return std::string("Invalid ") + what + " file name for frame " + number +
-               ".  To change the directory, use \"File... Directory\".";
+    const std::string where = " for frame " + std::to_string(entry + 1);
+    const auto field = [&](const char *name, const char *control) {
+        return refuse("Invalid \"" + std::string(name) + "\"" + where + ".", control, entry);
     };
     if (frame.top < 0 || frame.top > p.bkght)
-        return field("Top");
+        return field("Top", "ptop");
     if (frame.left < 0 || frame.left > p.bkgwd)
-        return field("Left");
+        return field("Left", "pleft");
     if (frame.duration < 0)
-        return field("Duration");
+        return field("Duration", "duration");
     if (!validFileName(frame.image))
-        return file("image");
+        return refuse(invalidFileName("image", where), "imgfn", entry);
     if (!validFileName(frame.sound))
-        return file("sound");
-    return {};
+        return refuse(invalidFileName("sound", where), "sndfn", entry);
+    return {true, ""};
 }
 
 } // namespace
 
-bool CheckAnimation(const PropertyFields &fields)
+Confirmation CheckAnimation(const PropertyFields &fields)
 {
     if (ParseInt16Clamped(fields.nplay) < 0)
-        return refuse("You cannot play the animation a negative number of times.");
-    for (std::size_t i = 0; i < fields.frames.size(); ++i) {
-        const std::string fault = frameFault(fields.frames[i], std::to_string(i + 1));
-        if (!fault.empty())
-            return refuse(fault);
-    }
-    return true;
+        return refuse("You cannot play the animation a negative number of times.", "nplay");
+    int entry = 0;
+    for (const Frame &frame : fields.frames)
+        if (const Confirmation check = checkFrame(frame, entry++); !check.stored)
+            return check;
+    return {true, ""};
 }
 
 bool checkEntryLimit(std::size_t entries, const std::string &kind, const std::string &title)

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace corvanta {
 
@@ -23,19 +24,23 @@ bool within(const std::string &text, int low, int high)
     return value >= low && value <= high;
 }
 
-// The name of the first placement field whose value does not lie on the page; none when all do.
-const char *misplacedField(const CommonFields &f)
+struct PlacementField {
+    const char *name, *control;
+};
+
+// The first placement field whose value does not lie on the page; none when all do.
+std::optional<PlacementField> misplacedField(const CommonFields &f)
 {
     const Page &p = page();
     if (!within(f.ptop, 0, p.bkght))
-        return "Top";
+        return PlacementField{"Top", "ptop"};
     if (!within(f.pleft, 0, p.bkgwd))
-        return "Left";
+        return PlacementField{"Left", "pleft"};
     if (!within(f.pheight, 1, p.bkght))
-        return "Height";
+        return PlacementField{"Height", "pheight"};
     if (!within(f.pwidth, 1, p.bkgwd))
-        return "Width";
-    return nullptr;
+        return PlacementField{"Width", "pwidth"};
+    return std::nullopt;
 }
 
 void storeBinding(ObjectRecord &o, const CommonFields &f, bool bound)
@@ -47,6 +52,11 @@ void storeBinding(ObjectRecord &o, const CommonFields &f, bool bound)
 }
 
 } // namespace
+
+std::string invalidField(Kind kind, const char *field)
+{
+    return "Invalid " + lowerCase(kindRow(kind).displayName) + " \"" + field + "\".";
+}
 
 std::string propertiesCaption(Kind kind) { return std::string(kindRow(kind).displayName) + " Properties"; }
 
@@ -69,12 +79,13 @@ CommonFields LoadCommonProperties(std::int16_t index)
     return f;
 }
 
-bool CheckPlacement(Kind kind, const CommonFields &fields)
+Confirmation CheckPlacement(Kind kind, const CommonFields &fields)
 {
-    const char *field = misplacedField(fields);
-    if (field)
-        showExclamation("Invalid " + lowerCase(kindRow(kind).displayName) + " \"" + field + "\".", propertiesError);
-    return !field;
+    const auto field = misplacedField(fields);
+    if (!field)
+        return {true, ""};
+    showExclamation(invalidField(kind, field->name), propertiesError);
+    return {false, field->control};
 }
 
 void StoreCommonProperties(std::int16_t index, const CommonFields &fields, std::string_view workingAction)

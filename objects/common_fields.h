@@ -17,14 +17,25 @@ struct CommonFields {
     std::string ctlname, datacol, updatekey, condobjname;
 };
 
+// What a confirmed dialog comes to. A refused one stays open, the message told; focus names the control that the
+// message is about.
+struct Confirmation {
+    bool stored = false; // of the checks alone: passed
+    std::string focus;
+    int entry = -1; // the entry of the dialog's list that the message is about; -1 none
+};
+
 // The dialog caption of a kind: its name followed by " Properties".
 std::string propertiesCaption(Kind kind);
+
+// What is told of a field with a wrong value: Invalid label "Top".
+std::string invalidField(Kind kind, const char *field);
 
 // The common fields of an object of the process-wide page.
 CommonFields LoadCommonProperties(std::int16_t index);
 
-// True when top, left, height and width lie on the page, each by itself. Tells the first that does not.
-bool CheckPlacement(Kind kind, const CommonFields &fields);
+// Whether top, left, height and width lie on the page, each by itself. Tells the first that does not.
+Confirmation CheckPlacement(Kind kind, const CommonFields &fields);
 
 // Writes the common fields and the working action to the object and sets pagedirty. Binding fields of kinds without
 // binding become empty.

@@ -80,6 +80,8 @@ PropertyFields LoadProperties(std::int16_t index)
     return f;
 }
 
+bool hasColour(Kind kind) { return !kindRow(kind).drawnOnPage && kind != Kind::Animation && kind != Kind::Button; }
+
 bool showsDataFields(const Page &p, Kind kind)
 {
     return kind == Kind::ComboBox || static_cast<PageKind>(p.PageType) != PageKind::Menu;

@@ -33,13 +33,6 @@ struct PropertyFields : CommonFields {
 // The fields of an object of the process-wide page.
 PropertyFields LoadProperties(std::int16_t index);
 
-// What a confirmed dialog comes to. A refused one stays open; focus names the control that gets the focus with
-// all its text selected, or is empty.
-struct Confirmation {
-    bool stored = false; // of the checks alone: passed
-    std::string focus;
-};
-
 // Checks the fields in the kind's order, telling what is wrong, and writes them back.
 Confirmation ConfirmProperties(std::int16_t index, const PropertyFields &fields);
 
@@ -51,8 +44,11 @@ void StoreProperties(std::int16_t index, const PropertyFields &fields);
 // "Menu", but for a Combo Box.
 bool showsDataFields(const Page &p, Kind kind);
 
+// Whether a kind's dialog has the colour of the element's background.
+bool hasColour(Kind kind);
+
 // The checks of an Animation, stopping at the first fault.
-bool CheckAnimation(const PropertyFields &fields);
+Confirmation CheckAnimation(const PropertyFields &fields);
 
 // Whether "New" and "Insert" may add to a list of so many entries; tells when not. kind is "combo box", "list box"
 // or "grid header".

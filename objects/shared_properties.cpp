@@ -14,7 +14,6 @@ bool aligned(Kind kind) { return kindRow(kind).hasAlignment; }
 bool ordered(Kind kind) { return kindRow(kind).hasTabIndex; }
 bool bound(Kind kind) { return kindRow(kind).hasBinding; }
 bool written(Kind kind) { return !kindRow(kind).drawnOnPage && kind != Kind::Animation; }
-bool coloured(Kind kind) { return written(kind) && kind != Kind::Button; }
 bool excludable(Kind kind) { return kind == Kind::TextBox || kind == Kind::File; }
 bool guarded(Kind kind) { return excludable(kind) || kind == Kind::ImageDb; }
 bool multiLine(Kind kind) { return kind == Kind::TextBox; }
@@ -70,7 +69,7 @@ std::span<const SharedField, sharedFieldCount> sharedFields()
         text("keyreq", "&Key Required:", always, &PropertyFields::keyreq),
         text("sptext", "&Status Panel Text:", always, &PropertyFields::sptext),
         text("condobjname", "C&ondition Object:", bound, &PropertyFields::condobjname),
-        text("col", "&BackColor:", coloured, &PropertyFields::col),
+        text("col", "&BackColor:", hasColour, &PropertyFields::col),
         {"font", "&Font...", written},
         {"alignment", "&Alignment:", aligned, nullptr, &PropertyFields::alignment},
         text("tbindex", "&Tab Index:", ordered, &PropertyFields::tbindex),

@@ -13,7 +13,6 @@ namespace corvanta {
 namespace {
 
 constexpr const char *propertiesError = "Properties Error";
-constexpr const char *imageMessage = "Invalid image file name.  To change the directory, use \"File... Directory\".";
 constexpr int largestBevel = 10, largestSpeed = 10;
 
 // An object that is being confirmed: its record, and its element unless it is drawn on the page.
@@ -33,50 +32,45 @@ Target targetOf(std::int16_t index)
             static_cast<std::size_t>(p.ctlindex[i])};
 }
 
-bool inRange(int value, int low, int high, const char *message)
+Confirmation inRange(const std::string &text, int low, int high, const char *message, const char *control)
 {
-    const bool fits = value >= low && value <= high;
-    if (!fits)
-        showExclamation(message, propertiesError);
-    return fits;
+    const int value = ParseInt16Clamped(text);
+    if (value >= low && value <= high)
+        return {true, ""};
+    showExclamation(message, propertiesError);
+    return {false, control};
 }
 
-// The checks of a kind besides the placement, in the kind's order. The control named in the result gets the focus.
-struct Check {
-    bool passed = true;
-    std::string focus;
-};
-
-Check checkButton(const PropertyFields &f)
+// The checks of a kind besides its colour, in the kind's order.
+Confirmation checkButton(const PropertyFields &f)
 {
-    const bool placed = CheckPlacement(Kind::Button, f);
-    const bool named = CheckFileName(f.imgfn, imageMessage);
-    if (!placed || !named)
-        return {false, named ? "" : "imgfn"};
-    return {inRange(ParseInt16Clamped(f.bwidth), 0, largestBevel, "BevelWidth can only be between 0 and 10."), ""};
-}
-
-Check checkImage(const PropertyFields &f)
-{
-    if (!CheckFileName(f.imgfn, imageMessage))
+    const Confirmation placed = CheckPlacement(Kind::Button, f);
+    if (!CheckFileName(f.imgfn, invalidFileName("image")))
         return {false, "imgfn"};
-    return {CheckPlacement(Kind::Image, f), ""};
+    return placed.stored ? inRange(f.bwidth, 0, largestBevel, "BevelWidth can only be between 0 and 10.", "bwidth")
+                         : placed;
 }
 
-Check checkTicker(const PropertyFields &f)
+Confirmation checkImage(const PropertyFields &f)
 {
-    return {CheckPlacement(Kind::Ticker, f) &&
-                inRange(ParseInt16Clamped(f.speed), 1, largestSpeed, "Speed can only be between 1 and 10."),
-            ""};
+    if (!CheckFileName(f.imgfn, invalidFileName("image")))
+        return {false, "imgfn"};
+    return CheckPlacement(Kind::Image, f);
 }
 
-Check checkFields(Kind kind, const PropertyFields &f)
+Confirmation checkTicker(const PropertyFields &f)
+{
+    const Confirmation placed = CheckPlacement(Kind::Ticker, f);
+    return placed.stored ? inRange(f.speed, 1, largestSpeed, "Speed can only be between 1 and 10.", "speed") : placed;
+}
+
+Confirmation checkFields(Kind kind, const PropertyFields &f)
 {
     switch (kind) {
     case Kind::Button: return checkButton(f);
     case Kind::Image: return checkImage(f);
     case Kind::Ticker: return checkTicker(f);
-    case Kind::Animation: return {CheckAnimation(f), ""};
+    case Kind::Animation: return CheckAnimation(f);
     case Kind::HotSpot:
     case Kind::ListBox:
     case Kind::Label:
@@ -85,9 +79,16 @@ Check checkFields(Kind kind, const PropertyFields &f)
     case Kind::ImageDb:
     case Kind::ComboBox:
     case Kind::File:
-    case Kind::Url: return {CheckPlacement(kind, f), ""};
+    case Kind::Url: return CheckPlacement(kind, f);
     }
     return {};
+}
+
+// A transparent label's colour cannot be typed.
+Confirmation checkColour(Kind kind, const PropertyFields &f)
+{
+    const bool shown = hasColour(kind) && !(kind == Kind::Label && f.trans);
+    return {!shown || CheckColourText(f.col, invalidField(kind, "BackColor")), "col"};
 }
 
 void storeButton(const Target &t, const PropertyFields &f)
@@ -155,14 +156,14 @@ void storeKindFields(const Target &t, const PropertyFields &f)
     }
 }
 
-// Colour and font of the element; a Button has no colour field.
+// Colour and font of the element.
 void storeAppearance(const Target &t, const PropertyFields &f)
 {
     if (!t.element)
         return;
     t.element->font = f.font;
-    if (t.kind != Kind::Button)
-        t.element->BackColor = ParseColourText(f.col);
+    if (hasColour(t.kind))
+        t.element->BackColor = changedColour(f.col, t.element->BackColor);
     t.element->alignment = t.record.alignment;
 }
 
@@ -210,8 +211,8 @@ Confirmation CheckProperties(std::int16_t index, const PropertyFields &fields)
         hasObject(page(), index) ? kindOf(page().objects[static_cast<std::size_t>(index)].kind) : std::nullopt;
     if (!kind)
         return {};
-    const Check check = checkFields(*kind, fields);
-    return {check.passed, check.focus};
+    const Confirmation check = checkFields(*kind, fields);
+    return check.stored ? checkColour(*kind, fields) : check;
 }
 
 void StoreProperties(std::int16_t index, const PropertyFields &fields)

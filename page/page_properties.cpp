@@ -10,36 +10,37 @@ namespace corvanta {
 
 namespace {
 
-constexpr const char *imageMessage =
-    "Invalid background file name.  To change the directory, use \"File... Directory\".";
-constexpr const char *soundMessage = "Invalid sound file name.  To change the directory, use \"File... Directory\".";
-
-bool refuse(const char *text)
+PageConfirmation refuse(const std::string &text, const char *control)
 {
     showExclamation(text, "Properties Error");
-    return false;
+    return {false, control};
 }
 
-bool checkSize(const PagePropertyFields &f, ScreenSize screen)
+// The fields themselves, before the background picture is looked at. A size that the image gives cannot be typed.
+PageConfirmation checkFields(const PagePropertyFields &f, ScreenSize screen)
 {
+    if (!validFileName(f.imgfn))
+        return refuse(invalidFileName("background"), "imgfn");
+    if (!validFileName(f.sndfn))
+        return refuse(invalidFileName("sound"), "sndfn");
     const int height = ParseInt16Clamped(f.bkght), width = ParseInt16Clamped(f.bkgwd);
     if (height < 1 || height > screen.height)
-        return refuse("Invalid background height.");
+        return refuse("Invalid background height.", f.sizeTyped ? "bkght" : "imgfn");
     if (width < 1 || width > screen.width)
-        return refuse("Invalid background width.");
-    return true;
+        return refuse("Invalid background width.", f.sizeTyped ? "bkgwd" : "imgfn");
+    return {CheckColourText(f.bkgcol, "Invalid background color."), "bkgcol"};
 }
 
 // The named background picture fits the screen.
-bool checkPicture(const PicturePtr &picture, ScreenSize screen)
+PageConfirmation checkPicture(const PicturePtr &picture, ScreenSize screen)
 {
     if (!picture)
-        return refuse(imageMessage);
+        return refuse(invalidFileName("background"), "imgfn");
     if (picture->height > screen.height)
-        return refuse("Invalid picture's height.");
+        return refuse("Invalid picture's height.", "imgfn");
     if (picture->width > screen.width)
-        return refuse("Invalid picture's width.");
-    return true;
+        return refuse("Invalid picture's width.", "imgfn");
+    return {true, ""};
 }
 
 std::int16_t flagsOf(const PagePropertyFields &f)
@@ -55,7 +56,7 @@ void storeBackground(Page &p, const PagePropertyFields &f, const PicturePtr &pic
 {
     const bool sizeOfPicture = picture && !f.sizeTyped;
     p.bkgfile = trimmed(f.imgfn);
-    p.bkgcol = ParseColourText(f.bkgcol);
+    p.bkgcol = changedColour(f.bkgcol, p.bkgcol);
     p.bkght = sizeOfPicture ? static_cast<std::int16_t>(picture->height) : ParseInt16Clamped(f.bkght);
     p.bkgwd = sizeOfPicture ? static_cast<std::int16_t>(picture->width) : ParseInt16Clamped(f.bkgwd);
     p.background = picture;
@@ -127,15 +128,13 @@ bool sizeIsTyped(const std::string &imgfn) { return trimmed(imgfn).empty(); }
 
 PageConfirmation ConfirmPageProperties(const PagePropertyFields &f, ScreenSize screen)
 {
-    if (!CheckFileName(f.imgfn, imageMessage))
-        return {false, "imgfn"};
-    if (!CheckFileName(f.sndfn, soundMessage))
-        return {false, "sndfn"};
-    if (!checkSize(f, screen))
-        return {};
+    const PageConfirmation fields = checkFields(f, screen);
+    if (!fields.stored)
+        return fields;
     const PicturePtr picture = loadPicture(trimmed(f.imgfn));
-    if (!sizeIsTyped(f.imgfn) && !checkPicture(picture, screen))
-        return {};
+    const PageConfirmation fitting = sizeIsTyped(f.imgfn) ? PageConfirmation{true, ""} : checkPicture(picture, screen);
+    if (!fitting.stored)
+        return fitting;
     Page &p = page();
     storeBackground(p, f, picture);
     storeFields(p, f);

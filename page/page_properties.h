@@ -36,7 +36,7 @@ struct ScreenSize {
 };
 
 // Checks the fields in their order, telling the first fault, and writes them to the process-wide page with its
-// background picture and sound. The control named in focus gets the focus with its text selected.
+// background picture and sound. focus names the control that a fault is about.
 struct PageConfirmation {
     bool stored = false;
     std::string focus;

@@ -37,6 +37,7 @@ struct FileDialog {
     std::string filter;           // "Caption (*.ods)|*.ods|All Files (*.*)|*.*"; the first is selected
     std::string initialDirectory; // drive path
     std::string fileName;         // initial file name
+    bool entersDirectory = true;  // the chosen file's directory becomes current
 };
 
 using FontChoice = FontBlock;
@@ -44,7 +45,7 @@ using FontChoice = FontBlock;
 struct Asking {
     std::function<Answer(const MessageBox &)> messageBox;
     std::function<std::size_t(const MessageBox &)> choice; // index of the pressed one of the box's captions
-    // The chosen drive path; none on cancel. The chosen file's directory has become current.
+    // The chosen drive path; none on cancel.
     std::function<std::optional<std::string>(const FileDialog &)> fileDialog;
     std::function<std::optional<FontChoice>(const FontChoice &)> fontDialog;
     std::function<std::optional<std::int32_t>(std::int32_t)> colourDialog; // 0x00BBGGRR

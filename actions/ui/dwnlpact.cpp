@@ -3,6 +3,7 @@
 #include "actions/ui/page_file.h"
 #include "actions/ui/parameter_fields.h"
 #include "document/page.h"
+#include "platform/qt/code_page_text.h"
 #include "platform/qt/text.h"
 #include "platform/text.h"
 
@@ -20,6 +21,7 @@ QComboBox *addObjectChoice(Fields &fields, const std::string &stored)
     fileobj->setEditable(true);
     fileobj->setInsertPolicy(QComboBox::NoInsert);
     fileobj->setCompleter(nullptr);
+    keepInCodePage(*fileobj->lineEdit());
     fileobj->lineEdit()->setObjectName("fileobjtext");
     fileobj->lineEdit()->setAccessibleName(fileobj->accessibleName());
     for (const ObjectRecord &object : page().objects)

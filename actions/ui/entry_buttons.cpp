@@ -36,8 +36,6 @@ void addEntryButtons(QBoxLayout &layout, const char *name, const std::vector<Ent
         rows.push_back({names[i].c_str(), captionOf(commands[i]),
                         [edit, command = commands[i], &list] { edit(command, list.currentRow()); }});
     const std::vector<QPushButton *> buttons = addButtonRow(layout, rows);
-    for (QPushButton *button : buttons)
-        button->setAutoDefault(false);
     // The toolkit makes an entry current, but does not select it, when the list gets the focus.
     const auto update = [commands, buttons, &list] {
         if (list.currentItem())

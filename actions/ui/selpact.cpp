@@ -18,9 +18,11 @@ namespace {
 void generate(QPlainTextEdit &statement)
 {
     const SqlText generated = GenerateSelect(page(), trimmed(toBytes(statement.toPlainText())));
-    if (!generated.error.empty())
-        showExclamation(generated.error, "Error");
     statement.setPlainText(toQString(generated.text));
+    if (generated.error.empty())
+        return;
+    showExclamation(generated.error, "Error");
+    returnToField(*statement.window(), "selstmt");
 }
 
 void addPage(ActionDialog &dialog, ParameterFields &parameters, const char *name, const char *caption,

@@ -1,6 +1,8 @@
 #include "actions/ui/entry_buttons.h"
+#include "document/media.h"
 #include "document/parse.h"
 #include "objects/ui/dialogs.h"
+#include "objects/ui/media_row.h"
 #include "platform/qt/text.h"
 #include "platform/text.h"
 
@@ -95,8 +97,13 @@ void addFrameFields(FrameFields &f, QBoxLayout &layout)
     Group group = addGroup(layout, "frame", "Frame", 2);
     f.ptop = addNumberRow(group.fields, "ptop", "&Top:");
     f.pleft = addNumberRow(group.fields, "pleft", "&Left:");
-    f.imgfn = addTextRow(group.fields, "imgfn", "I&mage:");
-    f.sndfn = addTextRow(group.fields, "sndfn", "S&ound:");
+    const auto invalid = [&f](const char *what) {
+        return [what, list = f.list] {
+            return invalidFileName(what, " for frame " + std::to_string(list->currentRow() + 1));
+        };
+    };
+    f.imgfn = addMediaField(group.fields, "imgfn", "I&mage:", Media::Image, invalid("image"));
+    f.sndfn = addMediaField(group.fields, "sndfn", "S&ound:", Media::Sound, invalid("sound"));
     f.duration = addNumberRow(group.fields, "duration", "&Duration:");
     addHintBeside(group.fields, "(1/10 seconds)");
 }

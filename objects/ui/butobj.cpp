@@ -10,7 +10,7 @@ void buildButobj(PropertyDialog &d)
 
     Group look = addGroup(*columns[1], "look", "Appearance");
     d.tie(addTextRow(look.fields, "cap", "&Caption:"), &PropertyFields::cap);
-    d.tie(addTextRow(look.fields, "imgfn", "&Image:"), &PropertyFields::imgfn);
+    addImageRow(d, look.fields);
     d.tie(addNumberRow(look.fields, "bwidth", "&BevelWidth:"), &PropertyFields::bwidth);
     addHintBeside(look.fields, "(0-10)");
     addAlignmentRow(d, look.fields, "Alignment:");

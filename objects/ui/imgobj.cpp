@@ -7,7 +7,7 @@ void buildImgobj(PropertyDialog &d)
     addStandardProperties(d, d.contents());
     addActionGroup(d, d.contents());
     Fields fields = addFields(d.contents());
-    d.tie(addTextRow(fields, "imgfn", "&Image:"), &PropertyFields::imgfn);
+    addImageRow(d, fields);
     addHoverRow(d, fields);
 }
 

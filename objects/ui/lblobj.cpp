@@ -3,7 +3,6 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 
 namespace corvanta {
 
@@ -18,17 +17,13 @@ void buildLblobj(PropertyDialog &d)
     addAlignmentRow(d, look.fields, "&Alignment");
     addFontButton(d, look.fields);
     QLineEdit *col = addColourRow(d, look.fields);
-    auto *colsel = d.findChild<QPushButton *>("colsel");
     QCheckBox *trans = addCheckRow(look.fields, "trans", "T&ransparent Background");
     d.tie(trans, &PropertyFields::trans);
     d.tie(addCheckRow(look.fields, "bstyle", "B&order"), &PropertyFields::bstyle);
     addHoverRow(d, look.fields);
 
     labelOf(*col)->setObjectName("bclabel");
-    const auto showColour = [col, colsel, trans] {
-        setFieldEnabled(*col, !trans->isChecked());
-        colsel->setEnabled(!trans->isChecked());
-    };
+    const auto showColour = [col, trans] { setFieldEnabled(*col, !trans->isChecked()); };
     d.onLoad(showColour);
     QObject::connect(trans, &QCheckBox::toggled, col, showColour);
 }

@@ -2,6 +2,7 @@
 
 #include "document/events.h"
 #include "objects/shared_properties.h"
+#include "objects/ui/colour_row.h"
 #include "objects/ui/property_dialog.h"
 #include "platform/asking.h"
 #include "platform/qt/text.h"
@@ -75,16 +76,8 @@ void SharedDialog::addLook(QBoxLayout &layout)
     if (!has("col") && !has("font") && !has("alignment") && !has("tbindex"))
         return;
     Group look = addGroup(layout, "look", "Appearance");
-    if (has("col")) {
-        QLineEdit *col = addTextRow(look.fields, "col", labelOfField("col"));
-        watchText(fieldOf("col"), *col);
-        QObject::connect(addButtonBeside(look.fields, "colsel", "Select"), &QPushButton::clicked, col, [this, col] {
-            const QString before = col->text();
-            chooseColour(*col);
-            if (col->text() != before)
-                emit col->textEdited(col->text());
-        });
-    }
+    if (has("col"))
+        watchText(fieldOf("col"), *addColourField(look.fields, "col", labelOfField("col"), "colsel"));
     if (has("alignment")) {
         QComboBox *list = addComboRow(look.fields, "alignment", labelOfField("alignment"), {"Left", "Right", "Center"});
         watchChoice(fieldOf("alignment"), *list);

@@ -9,6 +9,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPlainTextEdit>
 
 #include <memory>
@@ -83,16 +84,9 @@ void PropertyDialog::confirm()
     const Confirmation confirmation = ConfirmProperties(objectIndex, values);
     if (confirmation.stored)
         return accept();
+    if (auto *entries = findChild<QListWidget *>(); entries && confirmation.entry >= 0)
+        entries->setCurrentRow(confirmation.entry);
     returnToField(*this, confirmation.focus);
-}
-
-void returnToField(QWidget &dialog, const std::string &name)
-{
-    auto *field = name.empty() ? nullptr : dialog.findChild<QLineEdit *>(QString::fromStdString(name));
-    if (!field)
-        return;
-    field->setFocus();
-    field->selectAll();
 }
 
 void PropertyDialog::tie(QLineEdit *edit, std::string PropertyFields::*member)

@@ -65,14 +65,11 @@ void addAutoSqlGroup(PropertyDialog &d, QBoxLayout &layout, bool exclude);
 QComboBox *addAlignmentRow(PropertyDialog &d, Fields &fields, const QString &label);
 void addTabIndexRow(PropertyDialog &d, Fields &fields, const QString &label);
 void addHoverRow(PropertyDialog &d, Fields &fields);
+// The name of an Image's or a Button's picture.
+QLineEdit *addImageRow(PropertyDialog &d, Fields &fields);
 // "&Font..." beside the latest field's row; changed runs when the author has chosen a font.
 QPushButton *addFontButton(PropertyDialog &d, Fields &fields, std::function<void()> changed = {});
-// The colour text col and its button colsel; changed runs when either changes the colour.
+// The colour text col and its button colsel; changed runs when the colour changes.
 QLineEdit *addColourRow(PropertyDialog &d, Fields &fields, std::function<void()> changed = {});
-
-// Puts the focus into a refused field, trimmed and with all its text selected; an empty name leaves it where it is.
-void returnToField(QWidget &dialog, const std::string &name);
-// Asks for a colour, starting from the hexadecimal digits of a field, which then takes the chosen one.
-void chooseColour(QLineEdit &field);
 
 } // namespace corvanta

@@ -1,7 +1,9 @@
 #include "actions/action.h"
 #include "actions/action_choice.h"
+#include "document/media.h"
 #include "document/page.h"
-#include "document/parse.h"
+#include "objects/ui/colour_row.h"
+#include "objects/ui/media_row.h"
 #include "objects/ui/property_dialog.h"
 #include "platform/asking.h"
 #include "platform/qt/text.h"
@@ -84,6 +86,13 @@ void addHoverRow(PropertyDialog &d, Fields &fields)
     d.tie(addCheckRow(fields, "hover", "Use special mouse pointer"), &PropertyFields::hover);
 }
 
+QLineEdit *addImageRow(PropertyDialog &d, Fields &fields)
+{
+    QLineEdit *imgfn = addMediaField(fields, "imgfn", "&Image:", Media::Image, [] { return invalidFileName("image"); });
+    d.tie(imgfn, &PropertyFields::imgfn);
+    return imgfn;
+}
+
 QPushButton *addFontButton(PropertyDialog &d, Fields &fields, std::function<void()> changed)
 {
     QPushButton *button = addButtonBeside(fields, "fontsel", "&Font...");
@@ -99,20 +108,10 @@ QPushButton *addFontButton(PropertyDialog &d, Fields &fields, std::function<void
     return button;
 }
 
-void chooseColour(QLineEdit &field)
-{
-    const std::int32_t colour = ParseColourText(toBytes(field.text()));
-    const auto chosen = asking().colourDialog ? asking().colourDialog(colour) : std::nullopt;
-    if (chosen)
-        field.setText(toQString(colourText(*chosen)));
-}
-
 QLineEdit *addColourRow(PropertyDialog &d, Fields &fields, std::function<void()> changed)
 {
-    QLineEdit *col = addTextRow(fields, "col", "&BackColor:");
+    QLineEdit *col = addColourField(fields, "col", "&BackColor:", "colsel");
     d.tie(col, &PropertyFields::col);
-    QPushButton *colsel = addButtonBeside(fields, "colsel", "Select");
-    QObject::connect(colsel, &QPushButton::clicked, col, [col] { chooseColour(*col); });
     if (changed)
         QObject::connect(col, &QLineEdit::textChanged, col, [changed] { changed(); });
     return col;

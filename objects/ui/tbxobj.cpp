@@ -1,4 +1,6 @@
+#include "document/media.h"
 #include "objects/ui/dialogs.h"
+#include "objects/ui/media_row.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -25,7 +27,8 @@ void addInput(PropertyDialog &d, QBoxLayout &layout)
     d.tie(inptype, &PropertyFields::inptype);
     setFieldVisible(*inptype, showsDataFields(page(), d.kind()));
     d.tie(addNumberRow(input.fields, "maxlen", "Max Length:"), &PropertyFields::maxlen);
-    d.tie(addTextRow(input.fields, "txtfn", "Text &File:"), &PropertyFields::txtfn);
+    d.tie(addMediaField(input.fields, "txtfn", "Text &File:", Media::Text, [] { return invalidFileName("text"); }),
+          &PropertyFields::txtfn);
     Fields flags = addFields(*input.contents, 3);
     d.tie(addCheckRow(flags, "readonly", "Read Only"), &PropertyFields::readonly);
     d.tie(addCheckRow(flags, "invisible", "Invisible"), &PropertyFields::invisible);

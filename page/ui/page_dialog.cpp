@@ -2,7 +2,9 @@
 
 #include "database/connection.h"
 #include "database/sql.h"
-#include "objects/ui/property_dialog.h"
+#include "document/media.h"
+#include "objects/ui/colour_row.h"
+#include "objects/ui/media_row.h"
 #include "platform/asking.h"
 #include "platform/help.h"
 #include "platform/qt/dialogs.h"
@@ -10,6 +12,7 @@
 #include "platform/qt/text.h"
 #include "platform/text.h"
 
+#include <QBoxLayout>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
@@ -24,7 +27,7 @@ PageDialog::PageDialog() : values(LoadPageProperties(page()))
 {
     const auto columns = addColumns(*startDialog(*this, "pgprops", "Page Properties"), 2);
     addBackground(*columns[0]);
-    addPlainGroup(*columns[0], "sound", "&Sound", "sndfn", &PagePropertyFields::sndfn);
+    addSound(*columns[0]);
     addPageType(*columns[0]);
     addPlainGroup(*columns[0], "caption", "Caption", "pgcaption", &PagePropertyFields::pgcaption);
     addPlainGroup(*columns[0], "key", "&Key Required:", "keyreq", &PagePropertyFields::keyreq);
@@ -41,12 +44,12 @@ PageDialog::PageDialog() : values(LoadPageProperties(page()))
 void PageDialog::addBackground(QBoxLayout &layout)
 {
     Group group = addGroup(layout, "background", "Background", 2);
-    QLineEdit *imgfn = tie(addTextRow(group.fields, "imgfn", "&Image:"), &PagePropertyFields::imgfn);
-    QLineEdit *bkgcol = tie(addTextRow(group.fields, "bkgcol", "&Color:"), &PagePropertyFields::bkgcol);
-    QPushButton *bkgsel = addButtonBeside(group.fields, "bkgsel", "Select");
+    const auto invalid = [] { return invalidFileName("background"); };
+    QLineEdit *imgfn =
+        tie(addMediaField(group.fields, "imgfn", "&Image:", Media::Image, invalid), &PagePropertyFields::imgfn);
+    tie(addColourField(group.fields, "bkgcol", "&Color:", "bkgsel"), &PagePropertyFields::bkgcol);
     bkght = tie(addNumberRow(group.fields, "bkght", "&Height:"), &PagePropertyFields::bkght);
     bkgwd = tie(addNumberRow(group.fields, "bkgwd", "&Width:"), &PagePropertyFields::bkgwd);
-    connect(bkgsel, &QPushButton::clicked, bkgcol, [bkgcol] { chooseColour(*bkgcol); });
     connect(imgfn, &QLineEdit::textChanged, this,
             [this](const QString &text) { enableSize(sizeIsTyped(toBytes(text))); });
 }
@@ -55,6 +58,13 @@ void PageDialog::enableSize(bool typed)
 {
     setFieldEnabled(*bkght, typed);
     setFieldEnabled(*bkgwd, typed);
+}
+
+void PageDialog::addSound(QBoxLayout &layout)
+{
+    Group group = addGroup(layout, "sound", "&Sound");
+    const auto invalid = [] { return invalidFileName("sound"); };
+    tie(addMediaField(group.fields, "sndfn", "", Media::Sound, invalid), &PagePropertyFields::sndfn);
 }
 
 void PageDialog::addPlainGroup(QBoxLayout &layout, const char *name, const QString &caption, const char *field,
@@ -117,9 +127,9 @@ void PageDialog::generateStatement()
 {
     const SqlText generated = selectWholeTable(toBytes(deftbl->text()));
     if (generated.error.empty())
-        statement->setPlainText(toQString(generated.text));
-    else
-        showExclamation(generated.error, "Properties Error");
+        return statement->setPlainText(toQString(generated.text));
+    showExclamation(generated.error, "Properties Error");
+    returnToField(*this, "deftbl");
 }
 
 void PageDialog::load()

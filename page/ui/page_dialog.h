@@ -40,6 +40,7 @@ private:
         return control;
     }
     void addBackground(QBoxLayout &layout);
+    void addSound(QBoxLayout &layout);
     void addPlainGroup(QBoxLayout &layout, const char *name, const QString &caption, const char *field, Text member);
     void addPageType(QBoxLayout &layout);
     void addConnection(QBoxLayout &layout);

@@ -4,6 +4,7 @@
 
 #include <QDialog>
 #include <QGuiApplication>
+#include <QLabel>
 #include <QPushButton>
 #include <QScreen>
 #include <QVBoxLayout>
@@ -35,6 +36,15 @@ QPushButton *addButton(QBoxLayout &layout, QWidget *parent, const ButtonRow &row
         QObject::connect(button, &QPushButton::clicked, button, [clicked = row.clicked] { clicked(); });
     layout.addWidget(button);
     return button;
+}
+
+void addNotice(QDialog &dialog, QBoxLayout &row)
+{
+    auto *notice = new QLabel(&dialog);
+    notice->setObjectName("notice");
+    notice->setTextFormat(Qt::PlainText);
+    notice->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    row.addWidget(notice, 1);
 }
 
 } // namespace
@@ -107,6 +117,8 @@ std::vector<QPushButton *> addButtonRow(QBoxLayout &layout, const std::vector<Bu
     std::vector<QPushButton *> added;
     for (const ButtonRow &button : buttons)
         added.push_back(addButton(*row, layout.parentWidget(), button));
+    for (QPushButton *button : added)
+        button->setAutoDefault(false);
     row->addStretch();
     return added;
 }
@@ -116,7 +128,7 @@ std::vector<QPushButton *> addButtons(QDialog &dialog, const std::vector<ButtonR
     auto *row = new QHBoxLayout;
     row->setContentsMargins(0, gapAboveButtons, 0, 0);
     static_cast<QBoxLayout *>(dialog.layout())->addLayout(row);
-    row->addStretch();
+    addNotice(dialog, *row);
     std::vector<QPushButton *> added;
     for (const ButtonRow &button : buttons)
         added.push_back(addButton(*row, &dialog, button));

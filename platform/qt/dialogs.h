@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <initializer_list>
+#include <string>
 #include <vector>
 
 class QButtonGroup;
@@ -87,10 +88,19 @@ void addWidgetRow(Fields &fields, QWidget &widget, const char *name, const QStri
 QPushButton *addButtonBeside(Fields &fields, const char *name, const QString &caption);
 QLabel *addHintBeside(Fields &fields, const QString &text);
 
-// A field together with its label; what stands beside it is switched on its own.
+// A field together with its label; what stands beside it is switched on its own, or follows.
 QLabel *labelOf(const QWidget &field); // nullptr without a label
 void setFieldEnabled(QWidget &field, bool enabled);
 void setFieldVisible(QWidget &field, bool visible);
+// What stands beside a field is from now on enabled when the field is.
+void followEnabled(QWidget &beside, QWidget &field);
+
+// After a message: the focus goes to the control that it is about, with all its text selected. An empty name, or one
+// that the dialog does not have, leaves it where it is.
+void returnToField(QWidget &dialog, const std::string &name);
+
+// A short word about a field, at the bottom of its dialog; beside the field in a window without one. Empty clears it.
+void showNotice(QWidget &field, const QString &text);
 
 struct ButtonRow {
     const char *name;
@@ -98,7 +108,7 @@ struct ButtonRow {
     std::function<void()> clicked;
 };
 
-// A row of buttons, at the layout's left.
+// A row of buttons, at the layout's left. Enter stays the dialog's default button, also after one of them was used.
 std::vector<QPushButton *> addButtonRow(QBoxLayout &layout, const std::vector<ButtonRow> &buttons);
 
 // The buttons that end a dialog, at the bottom right. The first is the default button (Enter). Esc and the window's

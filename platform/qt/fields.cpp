@@ -1,5 +1,7 @@
+#include "platform/qt/code_page_text.h"
 #include "platform/qt/dialogs.h"
 
+#include <QAccessible>
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
@@ -10,6 +12,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QToolTip>
 #include <QVBoxLayout>
 #include <QValidator>
 
@@ -96,6 +99,22 @@ private:
     int most;
 };
 
+// Enables and disables what stands beside the field that it filters the events of.
+class EnabledFollower : public QObject {
+public:
+    explicit EnabledFollower(QWidget &follower) : QObject(&follower), beside(follower) {}
+
+    bool eventFilter(QObject *field, QEvent *event) override
+    {
+        if (event->type() == QEvent::EnabledChange)
+            beside.setEnabled(static_cast<QWidget *>(field)->isEnabledTo(beside.parentWidget()));
+        return false;
+    }
+
+private:
+    QWidget &beside;
+};
+
 // Lets a frame with a list or a text area grow with its dialog.
 void letGrow(const Fields &fields)
 {
@@ -146,6 +165,7 @@ Group addGroup(QBoxLayout &layout, const char *name, const QString &caption, int
 QLineEdit *addTextRow(Fields &fields, const char *name, const QString &label)
 {
     auto *field = new QLineEdit(parentOf(fields));
+    keepInCodePage(*field);
     field->setMinimumWidth(widthOf(*field, 20));
     addControl(fields, *field, name, label, Width::Row);
     return field;
@@ -161,6 +181,7 @@ QLineEdit *addPasswordRow(Fields &fields, const char *name, const QString &label
 QLineEdit *addNumberRow(Fields &fields, const char *name, const QString &label)
 {
     auto *field = new QLineEdit(parentOf(fields));
+    keepInCodePage(*field);
     const int width = widthOf(*field, 10);
     field->setMinimumWidth(width);
     if (fields.cells == 1)
@@ -178,7 +199,7 @@ QLineEdit *addWholeNumberRow(Fields &fields, const char *name, const QString &la
 
 QPlainTextEdit *addTextAreaRow(Fields &fields, const char *name, const QString &label, int lines)
 {
-    auto *area = new QPlainTextEdit(parentOf(fields));
+    QPlainTextEdit *area = newTextArea(parentOf(fields));
     area->setTabChangesFocus(true);
     setLines(*area, lines);
     addControl(fields, *area, name, label, Width::Row, {}, Qt::AlignLeft | Qt::AlignTop);
@@ -284,6 +305,39 @@ void setFieldVisible(QWidget &field, bool visible)
     field.setVisible(visible);
     if (QLabel *label = labelOf(field))
         label->setVisible(visible);
+}
+
+void followEnabled(QWidget &beside, QWidget &field)
+{
+    beside.setEnabled(field.isEnabled());
+    field.installEventFilter(new EnabledFollower(beside));
+}
+
+void returnToField(QWidget &dialog, const std::string &name)
+{
+    auto *field = name.empty() ? nullptr : dialog.findChild<QWidget *>(QString::fromStdString(name));
+    if (!field)
+        return;
+    field->setFocus();
+    if (auto *line = qobject_cast<QLineEdit *>(field))
+        line->selectAll();
+    else if (auto *area = qobject_cast<QPlainTextEdit *>(field))
+        area->selectAll();
+}
+
+void showNotice(QWidget &field, const QString &text)
+{
+    auto *notice = field.window()->findChild<QLabel *>("notice");
+    if (!notice)
+        return QToolTip::showText(field.mapToGlobal(QPoint(0, field.height())), text, &field);
+    if (notice->text() == text)
+        return;
+    notice->setText(text);
+    notice->setToolTip(text);
+    if (text.isEmpty())
+        return;
+    QAccessibleEvent told(notice, QAccessible::Alert);
+    QAccessible::updateAccessibility(&told);
 }
 
 } // namespace corvanta

@@ -13,6 +13,7 @@
 #include <QScreen>
 #include <QTreeView>
 
+#include <algorithm>
 #include <filesystem>
 
 namespace corvanta {
@@ -37,12 +38,17 @@ bool isDirectory(const std::filesystem::path &host)
 
 bool isDrivePath(const QString &typed) { return typed.size() > 1 && typed[0].isLetter() && typed[1] == ':'; }
 
-bool isInCodePage(const QString &text) { return toQString(toBytes(text)) == text; }
+bool namesUnknownDrive(const QString &typed)
+{
+    const std::vector<std::string> drives = driveList();
+    return isDrivePath(typed) &&
+           std::find(drives.begin(), drives.end(), toBytes(typed.left(2).toUpper())) == drives.end();
+}
 
 // The host path of a typed name: the file of exactly that name, else the one that differs in letter case only.
 std::filesystem::path typedPath(QString typed, const QDir &folder)
 {
-    if (isDrivePath(typed) && isInCodePage(typed))
+    if (isDrivePath(typed) && !lackingCharacter(typed))
         return hostPath(toBytes(typed));
     typed.replace('\\', '/');
     const std::filesystem::path host = toPath(QDir::cleanPath(folder.absoluteFilePath(typed)));
@@ -80,6 +86,10 @@ public:
     void accept() override
     {
         const QString typed = nameEdit()->text();
+        if (namesUnknownDrive(typed)) {
+            showExclamation("Drive " + toBytes(typed.left(2).toUpper()) + " is invalid!", toBytes(windowTitle()));
+            return nameEdit()->selectAll();
+        }
         std::filesystem::path host = typedPath(typed, directory());
         if (typed.isEmpty() || typed.startsWith('~') || isDirectory(host)) {
             QFileDialog::accept();
@@ -155,7 +165,8 @@ std::optional<std::string> showFileDialog(const FileDialog &question, QWidget *o
     const std::string chosen = drivePath(toPath(window.selectedFiles().first()));
     if (chosen.empty())
         return std::nullopt;
-    changeDirectory(directoryPart(chosen));
+    if (question.entersDirectory)
+        changeDirectory(directoryPart(chosen));
     return chosen;
 }
 

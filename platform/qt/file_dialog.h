@@ -16,7 +16,7 @@ namespace corvanta {
 QStringList nameFilters(const std::string &filter);
 
 // Asks for a file. Typed names may be host or drive paths, in any letter case; names without an extension get the
-// default one. The directory of the chosen file becomes current.
+// default one; an unknown drive is told.
 std::optional<std::string> showFileDialog(const FileDialog &question, QWidget *owner);
 
 } // namespace corvanta

@@ -1,5 +1,6 @@
 #include "platform/qt/font_dialog.h"
 
+#include "platform/qt/code_page_text.h"
 #include "platform/qt/colours.h"
 #include "platform/qt/dialogs.h"
 #include "platform/qt/fonts.h"
@@ -39,6 +40,8 @@ void addFace(QBoxLayout &layout, FontControls &controls)
         addComboRow(fields, "fontsize",
                     "Si&ze:", {"8", "9", "10", "11", "12", "14", "16", "18", "20", "22", "24", "28", "36", "48", "72"});
     controls.size->setEditable(true);
+    for (QComboBox *combo : {controls.name, controls.size})
+        keepInCodePage(*combo->lineEdit());
 }
 
 void addStyles(QBoxLayout &layout, FontControls &controls)
@@ -132,7 +135,7 @@ std::optional<FontChoice> showFontDialog(const FontChoice &initial, QWidget *own
     load(controls, choice);
     const auto update = [&] {
         take(controls, choice);
-        ok->setEnabled(isUsable(choice));
+        ok->setEnabled(isUsable(choice) && controls.name->lineEdit()->hasAcceptableInput());
         showSample(controls, choice);
     };
     whenChanged(controls, update);

@@ -42,6 +42,14 @@ QString shownPath(std::string_view drivePath)
                                                          : QString::fromStdString(realPath(drivePath));
 }
 
+std::optional<char32_t> lackingCharacter(const QString &text)
+{
+    for (const char32_t character : text.toUcs4())
+        if (!byteOf(character))
+            return character;
+    return std::nullopt;
+}
+
 std::string toBytes(const QString &text)
 {
     std::string bytes;

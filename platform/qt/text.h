@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -12,6 +13,9 @@ QString toQString(std::string_view bytes);
 
 // A drive path as people read it: with the real names of files that the code page cannot spell.
 QString shownPath(std::string_view drivePath);
+
+// The first character of a text that the code page lacks; none when it has them all.
+std::optional<char32_t> lackingCharacter(const QString &text);
 
 // Characters that the code page lacks become "?".
 std::string toBytes(const QString &text);

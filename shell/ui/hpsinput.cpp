@@ -1,5 +1,6 @@
 #include "shell/ui/hpsinput.h"
 
+#include "platform/qt/code_page_text.h"
 #include "platform/qt/dialogs.h"
 #include "platform/qt/text.h"
 #include "platform/text.h"
@@ -28,6 +29,7 @@ Hpsinput::Hpsinput()
     prompt->setObjectName(QStringLiteral("Label1"));
     prompt->setTextFormat(Qt::PlainText);
     inplin = new QLineEdit(toQString(texts.text), this);
+    keepInCodePage(*inplin);
     inplin->setObjectName(QStringLiteral("inplin"));
     inplin->setAccessibleName(toQString(texts.prompt));
     inplin->setMinimumWidth(lineWidth);

@@ -1,6 +1,7 @@
 #include "actions/action.h"
 #include "document/parse.h"
 #include "objects/properties.h"
+#include "platform/text.h"
 #include "tests/support/fresh_page.h"
 #include "tests/support/scripted_asking.h"
 
@@ -16,6 +17,21 @@ TEST(Parse, NumbersAreRoundedToEvenAndClamped)
     EXPECT_EQ(ParseInt16Clamped("  7 apples"), 7);
     EXPECT_EQ(ParseInt16Clamped("apples"), 0);
     EXPECT_EQ(ParseInt32Clamped("-99999999999"), -2147483647);
+}
+
+TEST(Parse, ColoursAreHexadecimalDigitsOfThirtyTwoBits)
+{
+    for (const char *text : {"0", "ff", " C0C0C0 ", "#FF0000", "&hff", "80000000", "FFFFFFFF", "00000000ff"})
+        EXPECT_TRUE(isColourText(text)) << text;
+    for (const char *text : {"", "#", "blue", "FF 00", "-1", "0x10", "123456789", "##1", "#&H1", "ffg"})
+        EXPECT_FALSE(isColourText(text)) << text;
+    EXPECT_EQ(ParseColourText("#FF"), 0) << "the digits alone are read";
+    EXPECT_EQ(changedColour(" #ff0000", 1), 0xFF0000);
+    EXPECT_EQ(changedColour("&H80000005", 1), static_cast<std::int32_t>(0x80000005));
+    for (const std::uint32_t colour : {0x80000000U, 0xFFFFFFFFU, 0x7FFFFFFFU, 0x80000001U, 0U, 0x12345678U}) {
+        const auto before = static_cast<std::int32_t>(colour);
+        EXPECT_EQ(changedColour(colourText(before), before), before) << colour;
+    }
 }
 
 class Properties : public FreshPage {
@@ -57,10 +73,10 @@ TEST_F(Properties, PlacementBoundsAreInclusiveAndToldInOrder)
     };
     EXPECT_TRUE(confirm(Kind::Label, place("0", "0", "1", "1")).stored);
     EXPECT_TRUE(confirm(Kind::Label, place("420", "600", "420", "600")).stored);
-    refused(asking, Kind::Label, "Invalid label \"Height\".", "", place("0", "0", "0", "601"));
-    refused(asking, Kind::TextBox, "Invalid text box \"Top\".", "", place("-40000", "-1", "0", "0"));
-    refused(asking, Kind::HotSpot, "Invalid hot spot \"Left\".", "", place("0", "601", "0", "0"));
-    refused(asking, Kind::ListBox, "Invalid list box \"Width\".", "", place("0", "0", "1", ""));
+    refused(asking, Kind::Label, "Invalid label \"Height\".", "pheight", place("0", "0", "0", "601"));
+    refused(asking, Kind::TextBox, "Invalid text box \"Top\".", "ptop", place("-40000", "-1", "0", "0"));
+    refused(asking, Kind::HotSpot, "Invalid hot spot \"Left\".", "pleft", place("0", "601", "0", "0"));
+    refused(asking, Kind::ListBox, "Invalid list box \"Width\".", "pwidth", place("0", "0", "1", ""));
 }
 
 TEST_F(Properties, ButtonTellsPlacementAndFileNameTogetherButNotTheBevel)
@@ -81,10 +97,29 @@ TEST_F(Properties, BevelAndSpeedHaveBounds)
     const char *bevel = "BevelWidth can only be between 0 and 10.", *speed = "Speed can only be between 1 and 10.";
     EXPECT_TRUE(confirm(Kind::Button, [](auto &f) { f.bwidth = "10"; }).stored);
     EXPECT_TRUE(confirm(Kind::Button, [](auto &f) { f.bwidth = "-0.4"; }).stored);
-    refused(asking, Kind::Button, bevel, "", [](auto &f) { f.bwidth = "11"; });
+    refused(asking, Kind::Button, bevel, "bwidth", [](auto &f) { f.bwidth = "11"; });
     EXPECT_TRUE(confirm(Kind::Ticker, [](auto &f) { f.speed = "10"; }).stored);
-    refused(asking, Kind::Ticker, speed, "", [](auto &f) { f.speed = "0"; });
-    refused(asking, Kind::Ticker, speed, "", [](auto &f) { f.speed = "11"; });
+    refused(asking, Kind::Ticker, speed, "speed", [](auto &f) { f.speed = "0"; });
+    refused(asking, Kind::Ticker, speed, "speed", [](auto &f) { f.speed = "11"; });
+}
+
+TEST_F(Properties, ColoursAreCheckedWhereTheyCanBeTyped)
+{
+    ScriptedAsking asking;
+    const auto told = [](const char *kind) {
+        return "Invalid " + std::string(kind) + " \"BackColor\".  A color is one to eight hexadecimal digits.";
+    };
+    const auto blue = [](PropertyFields &f) { f.col = "blue"; };
+    for (std::int16_t code = firstKind; code <= lastKind; ++code) {
+        const Kind kind = *kindOf(code);
+        if (hasColour(kind))
+            refused(asking, kind, told(lowerCase(kindRow(kind).displayName).c_str()), "col", blue);
+        else
+            EXPECT_TRUE(confirm(kind, blue).stored) << code;
+    }
+    const std::int32_t before = page().lbl.front().BackColor;
+    ASSERT_TRUE(confirm(Kind::Label, [&](PropertyFields &f) { f.trans = true, blue(f); }).stored);
+    EXPECT_EQ(page().lbl.back().BackColor, before);
 }
 
 TEST_F(Properties, EntryListsHaveALimit)
@@ -108,21 +143,21 @@ TEST_F(Properties, AnimationChecksFramesInOrderAndStoresThem)
     good.duration = 5;
     good.top = 30;
     bad.top = 421;
-    refused(asking, Kind::Animation, "You cannot play the animation a negative number of times.", "",
+    refused(asking, Kind::Animation, "You cannot play the animation a negative number of times.", "nplay",
             frames({bad}, "-1"));
-    refused(asking, Kind::Animation, "Invalid \"Top\" for frame 2.", "", frames({good, bad}));
+    refused(asking, Kind::Animation, "Invalid \"Top\" for frame 2.", "ptop", frames({good, bad}));
     bad = {};
     bad.duration = -1;
     bad.image = "none.bmp";
-    refused(asking, Kind::Animation, "Invalid \"Duration\" for frame 1.", "", frames({bad}));
+    refused(asking, Kind::Animation, "Invalid \"Duration\" for frame 1.", "duration", frames({bad}));
     bad.duration = 0;
     bad.sound = "a\\b";
     refused(asking, Kind::Animation,
-            "Invalid image file name for frame 1.  To change the directory, use \"File... Directory\".", "",
+            "Invalid image file name for frame 1.  To change the directory, use \"File... Directory\".", "imgfn",
             frames({bad}));
     bad.image.clear();
     refused(asking, Kind::Animation,
-            "Invalid sound file name for frame 1.  To change the directory, use \"File... Directory\".", "",
+            "Invalid sound file name for frame 1.  To change the directory, use \"File... Directory\".", "sndfn",
             frames({bad}));
     ASSERT_TRUE(writeWholeFile("C:\\DING.WAV", "x"));
     good.sound = "ding.wav";

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 namespace corvanta {
 namespace {
 
@@ -57,6 +59,7 @@ TEST_F(PageProperties, ConfirmingUntouchedChangesNoByte)
     page().dbconnect = "Orders\tclerk\ts3cret\tOrder Lines";
     page().pgflags = rtlFlag | anonymousFlag;
     page().PageType = 4;
+    page().bkgcol = std::numeric_limits<std::int32_t>::min(); // a system colour
     const std::string before = serialisePage(page());
     ASSERT_TRUE(ConfirmPageProperties(LoadPageProperties(page()), screen).stored);
     EXPECT_EQ(serialisePage(page()), before);
@@ -66,10 +69,12 @@ TEST_F(PageProperties, ConfirmingUntouchedChangesNoByte)
 TEST_F(PageProperties, FaultsAreToldInOrderAndNothingIsWritten)
 {
     PagePropertyFields f = LoadPageProperties(page());
+    f.bkgcol = "123456789";
+    refused("Invalid background color.  A color is one to eight hexadecimal digits.", "bkgcol", f);
     f.bkgwd = "801";
-    refused("Invalid background width.", "", f);
+    refused("Invalid background width.", "bkgwd", f);
     f.bkght = "0";
-    refused("Invalid background height.", "", f);
+    refused("Invalid background height.", "bkght", f);
     f.sndfn = "none.wav";
     refused("Invalid sound file name.  To change the directory, use \"File... Directory\".", "sndfn", f);
     f.imgfn = "none.bmp";
@@ -84,9 +89,9 @@ TEST_F(PageProperties, PictureGivesThePageItsSizeWhenItFitsTheScreen)
     f.sizeTyped = false;
     f.sizeTyped = false;
     picture = pictureOf(640, 601);
-    refused("Invalid picture's height.", "", f);
+    refused("Invalid picture's height.", "imgfn", f);
     picture = pictureOf(801, 480);
-    refused("Invalid picture's width.", "", f);
+    refused("Invalid picture's width.", "imgfn", f);
     picture = pictureOf(640, 480);
     ASSERT_TRUE(ConfirmPageProperties(f, screen).stored);
     EXPECT_EQ(page().bkgfile, "paper.bmp");

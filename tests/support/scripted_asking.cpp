@@ -41,7 +41,7 @@ ScriptedAsking::ScriptedAsking() : before(std::exchange(asking(), {}))
     asking().fileDialog = [this](const FileDialog &dialog) {
         fileDialogs.push_back(dialog);
         const auto answer = next(describe(dialog.kind)).text;
-        if (answer)
+        if (answer && dialog.entersDirectory)
             changeDirectory(directoryPart(*answer));
         return answer;
     };

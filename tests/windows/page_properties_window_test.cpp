@@ -10,6 +10,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
+#include <QTest>
 
 using namespace corvanta;
 
@@ -59,10 +60,8 @@ protected:
         user.expectMessage(message, "Properties Error");
         press("ok");
         ASSERT_NE(openDialog(), nullptr) << message;
-        if (focus) {
-            EXPECT_EQ(openDialog()->focusWidget(), &field(focus)) << message;
-            EXPECT_EQ(field(focus).selectedText(), field(focus).text()) << message;
-        }
+        EXPECT_EQ(openDialog()->focusWidget(), &field(focus)) << message;
+        EXPECT_EQ(field(focus).selectedText(), field(focus).text()) << message;
         EXPECT_FALSE(editing().pagedirty);
     }
 
@@ -154,10 +153,10 @@ TEST_F(PagePropertiesWindow, FaultsKeepTheDialogOpenUntilTheyAreMended)
     refused("Invalid sound file name.  To change the directory, use \"File... Directory\".", "sndfn");
     field("sndfn").clear();
     field("bkght").setText("0");
-    refused("Invalid background height.", nullptr);
+    refused("Invalid background height.", "bkght");
     field("bkght").setText("300");
     field("bkgwd").setText(QString::number(openDialog()->screen()->size().width() + 1));
-    refused("Invalid background width.", nullptr);
+    refused("Invalid background width.", "bkgwd");
     field("bkgwd").setText("401");
     press("ok");
     EXPECT_EQ(openDialog(), nullptr);
@@ -205,11 +204,15 @@ TEST_F(PagePropertiesWindow, GenerateSelectsTheWholeTable)
         ScriptedAsking user;
         user.expectMessage("No default table.", "Properties Error");
         press("generate");
+        EXPECT_EQ(openDialog()->focusWidget(), &field("deftbl"));
     }
     EXPECT_EQ(field<QPlainTextEdit>("SelectStmt").toPlainText(), "Select 1");
     field("deftbl").setText("Order Details");
     press("generate");
     EXPECT_EQ(field<QPlainTextEdit>("SelectStmt").toPlainText(), "Select * From \"Order Details\"");
+    field<QPushButton>("generate").setFocus();
+    QTest::keyClick(&field<QPushButton>("generate"), Qt::Key_Return);
+    EXPECT_EQ(openDialog(), nullptr) << "Enter is OK";
 }
 
 TEST_F(PagePropertiesWindow, PictureGivesThePageItsSizeWhenItFitsTheScreen)
@@ -222,10 +225,10 @@ TEST_F(PagePropertiesWindow, PictureGivesThePageItsSizeWhenItFitsTheScreen)
     const QSize screen = openDialog()->screen()->size();
     picture->width = 64;
     picture->height = screen.height() + 1;
-    refused("Invalid picture's height.", nullptr);
+    refused("Invalid picture's height.", "imgfn");
     picture->height = 48;
     picture->width = screen.width() + 1;
-    refused("Invalid picture's width.", nullptr);
+    refused("Invalid picture's width.", "imgfn");
     picture->width = 64;
     press("ok");
     EXPECT_EQ(page().bkgwd, 64);
