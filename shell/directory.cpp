@@ -18,9 +18,9 @@ DirectoryRow row(std::string name, std::string path, int depth, bool open)
     return {std::move(name), std::move(path), depth, open};
 }
 
-} // namespace
-
 DirectoryChoice chosenPath(const std::string &path) { return {upperCase(path.substr(0, driveLength)), path}; }
+
+} // namespace
 
 DirectoryChoice openedDirectoryChoice()
 {
@@ -35,6 +35,11 @@ DirectoryChoice chosenDrive(const std::string &drive)
         return chosenPath(drive + "\\");
     showExclamation("Drive " + drive + " is invalid!", "Error");
     return chosenPath(currentDirectory());
+}
+
+DirectoryChoice enteredPath(const std::string &path)
+{
+    return directoryExists(path.substr(0, rootLength)) ? chosenPath(path) : chosenDrive(path.substr(0, driveLength));
 }
 
 std::vector<DirectoryRow> directoryRows(const std::string &path)

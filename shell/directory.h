@@ -18,7 +18,8 @@ DirectoryChoice openedDirectoryChoice();
 
 // The root of another drive. One that cannot be read is told, and the current directory shown again.
 DirectoryChoice chosenDrive(const std::string &drive);
-DirectoryChoice chosenPath(const std::string &path);
+// A directory of the list, which may have gone with its drive since it was shown: that is told in the same way.
+DirectoryChoice enteredPath(const std::string &path);
 
 // The rows of the directory list: the way down from the drive's root to the path, then the path's own folders.
 struct DirectoryRow {

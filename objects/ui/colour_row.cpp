@@ -15,6 +15,7 @@ namespace corvanta {
 namespace {
 
 constexpr int swatchWidth = 28; // pixels
+constexpr int leastDigits = 10;
 
 // Shows the colour of a text as it is typed, and a cross for a text that is none.
 class Swatch : public QWidget {
@@ -63,7 +64,7 @@ void chooseColour(QLineEdit &field)
 
 QLineEdit *addColourField(Fields &fields, const char *name, const QString &label, const char *buttonName)
 {
-    QLineEdit *field = addTextRow(fields, name, label);
+    QLineEdit *field = addTextRow(fields, name, label, leastDigits);
     auto *swatch = new Swatch(*field);
     fields.row->addWidget(swatch);
     QPushButton *button = addButtonBeside(fields, buttonName, "Select");

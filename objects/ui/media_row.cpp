@@ -13,6 +13,8 @@ namespace corvanta {
 
 namespace {
 
+constexpr int leastName = 12; // characters seen
+
 const char *filterOf(Media media)
 {
     switch (media) {
@@ -53,7 +55,7 @@ void browse(QLineEdit &field, Media media, const std::function<std::string()> &i
 QLineEdit *addMediaField(Fields &fields, const char *name, const QString &label, Media media,
                          std::function<std::string()> invalid)
 {
-    QLineEdit *field = addTextRow(fields, name, label);
+    QLineEdit *field = addTextRow(fields, name, label, leastName);
     const std::string buttonName = name + std::string("browse");
     QPushButton *button = addButtonBeside(fields, buttonName.c_str(), "Browse...");
     followEnabled(*button, *field);

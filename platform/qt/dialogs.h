@@ -67,7 +67,7 @@ struct Group {
 Group addGroup(QBoxLayout &layout, const char *name, const QString &caption, int cells = 1);
 
 // Fields. An empty label gives the control the label's place too.
-QLineEdit *addTextRow(Fields &fields, const char *name, const QString &label);
+QLineEdit *addTextRow(Fields &fields, const char *name, const QString &label, int least = 20); // characters seen
 QLineEdit *addPasswordRow(Fields &fields, const char *name, const QString &label);
 QLineEdit *addNumberRow(Fields &fields, const char *name, const QString &label);                // takes any text
 QLineEdit *addWholeNumberRow(Fields &fields, const char *name, const QString &label, int most); // takes 0 to most

@@ -162,11 +162,11 @@ Group addGroup(QBoxLayout &layout, const char *name, const QString &caption, int
     return {box, contents, addFields(*contents, cells)};
 }
 
-QLineEdit *addTextRow(Fields &fields, const char *name, const QString &label)
+QLineEdit *addTextRow(Fields &fields, const char *name, const QString &label, int least)
 {
     auto *field = new QLineEdit(parentOf(fields));
     keepInCodePage(*field);
-    field->setMinimumWidth(widthOf(*field, 20));
+    field->setMinimumWidth(widthOf(*field, least));
     addControl(fields, *field, name, label, Width::Row);
     return field;
 }

@@ -48,7 +48,7 @@ bool namesUnknownDrive(const QString &typed)
 // The host path of a typed name: the file of exactly that name, else the one that differs in letter case only.
 std::filesystem::path typedPath(QString typed, const QDir &folder)
 {
-    if (isDrivePath(typed) && !lackingCharacter(typed))
+    if (isDrivePath(typed) && !lackingCharacter(typed) && !namesUnknownDrive(typed))
         return hostPath(toBytes(typed));
     typed.replace('\\', '/');
     const std::filesystem::path host = toPath(QDir::cleanPath(folder.absoluteFilePath(typed)));
@@ -86,11 +86,11 @@ public:
     void accept() override
     {
         const QString typed = nameEdit()->text();
-        if (namesUnknownDrive(typed)) {
+        std::filesystem::path host = typedPath(typed, directory());
+        if (namesUnknownDrive(typed) && !isThere(host)) {
             showExclamation("Drive " + toBytes(typed.left(2).toUpper()) + " is invalid!", toBytes(windowTitle()));
             return nameEdit()->selectAll();
         }
-        std::filesystem::path host = typedPath(typed, directory());
         if (typed.isEmpty() || typed.startsWith('~') || isDirectory(host)) {
             QFileDialog::accept();
             return;

@@ -42,11 +42,7 @@ Hpsdir::Hpsdir()
     drivelist = addComboRow(fields, "drivelist", QStringLiteral("Dri&ves:"));
     for (const std::string &drive : driveList())
         drivelist->addItem(toQString(drive));
-    addButtons(*this, {{"ok", "OK",
-                        [this] {
-                            choosePageDirectory(choice.path);
-                            accept();
-                        }},
+    addButtons(*this, {{"ok", "OK", [this] { confirm(); }},
                        {"cancel", "Cancel", [this] { reject(); }},
                        {"Command2", "Help", [] { showHelp(HelpCommand::Contents); }}});
     connect(drivelist, &QComboBox::activated, this, [this] { show(chosenDrive(toBytes(drivelist->currentText()))); });
@@ -54,6 +50,15 @@ Hpsdir::Hpsdir()
     show(openedDirectoryChoice());
     direclist->setFocus();
     CentreDialog(*this);
+}
+
+void Hpsdir::confirm()
+{
+    const DirectoryChoice there = enteredPath(choice.path);
+    if (there.path != choice.path)
+        return show(there);
+    choosePageDirectory(choice.path);
+    accept();
 }
 
 void Hpsdir::show(const DirectoryChoice &shown)
@@ -81,7 +86,7 @@ void Hpsdir::keyPressEvent(QKeyEvent *event)
         QDialog::keyPressEvent(event);
 }
 
-void Hpsdir::open(const QListWidgetItem *row) { show(chosenPath(toBytes(row->data(pathRole).toString()))); }
+void Hpsdir::open(const QListWidgetItem *row) { show(enteredPath(toBytes(row->data(pathRole).toString()))); }
 
 void showDirectory() { Hpsdir().exec(); }
 

@@ -21,6 +21,7 @@ protected:
 
 private:
     void show(const DirectoryChoice &shown);
+    void confirm();
     void open(const QListWidgetItem *row);
 
     DirectoryChoice choice;

@@ -107,7 +107,9 @@ TEST_F(ShellSession, ChosenDirectoryIsNormalisedAndReloadsMediaOnceChanged)
     EXPECT_EQ(log, "Play C:\\PAGES\\gong.wav;");
     ScriptedAsking user;
     user.expectMessage("Drive X: is invalid!", "Error");
+    user.expectMessage("Drive X: is invalid!", "Error");
     EXPECT_EQ(upperCase(chosenDrive("X:").path), "C:\\PAGES");
+    EXPECT_EQ(upperCase(enteredPath("X:\\GONE").path), "C:\\PAGES");
     EXPECT_EQ(chosenDrive("C:").path, "C:\\");
 }
 

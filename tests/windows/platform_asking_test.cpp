@@ -147,6 +147,24 @@ TEST_F(QtAsking, SavesUnderANewNameWithTheExtension)
     EXPECT_EQ(currentDirectory(), "C:\\PAGES");
 }
 
+TEST_F(QtAsking, TellsADriveThatDoesNotExist)
+{
+    drive.add("PAGES/a:b.ods");
+    for (const FileDialog &question : {openQuestion(), saveQuestion()}) {
+        driver.expect("QFileDialog", [](QWidget &window) { type(window, "q:\\new.ods"); });
+        driver.expect("messagebox", [](QWidget &window) {
+            EXPECT_EQ(dynamic_cast<QMessageBox &>(window).text(), "Drive Q: is invalid!");
+            window.close();
+        });
+        driver.expect("QFileDialog", [](QWidget &window) { window.close(); });
+        EXPECT_EQ(asking().fileDialog(question), std::nullopt);
+    }
+    driver.expect("QFileDialog", [](QWidget &window) { type(window, "a:b.ods"); });
+    const auto chosen = asking().fileDialog(openQuestion());
+    ASSERT_TRUE(chosen) << "a file's own name comes first";
+    EXPECT_EQ(hostPath(*chosen), drive.root() / "PAGES/a:b.ods");
+}
+
 TEST_F(QtAsking, AsksBeforeAFileIsReplacedWhateverTheCaseOfItsName)
 {
     drive.add("PAGES/Menu.ods");
