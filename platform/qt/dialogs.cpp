@@ -43,6 +43,7 @@ void addNotice(QDialog &dialog, QBoxLayout &row)
     auto *notice = new QLabel(&dialog);
     notice->setObjectName("notice");
     notice->setTextFormat(Qt::PlainText);
+    notice->setWordWrap(true);
     notice->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     row.addWidget(notice, 1);
 }

@@ -98,12 +98,14 @@ public:
         host = withExtension(host);
         if (!hasDrivePath(host)) {
             showExclamation("This file name cannot be used: " + toBytes(typed), toBytes(windowTitle()));
-            return;
+            return nameEdit()->selectAll();
         }
         nameEdit()->setText(directory().relativeFilePath(hostText(host)));
         QFileDialog::accept();
-        if (isVisible())
+        if (isVisible()) {
             nameEdit()->setText(typed);
+            nameEdit()->selectAll();
+        }
     }
 
 private:
