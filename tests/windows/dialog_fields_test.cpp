@@ -6,7 +6,6 @@
 
 #include <QClipboard>
 #include <QLabel>
-#include <QListWidget>
 #include <QPlainTextEdit>
 #include <QTest>
 
@@ -45,19 +44,16 @@ std::vector<std::optional<Kind>> colouredDialogs()
 TEST_F(DialogFields, OkUntouchedKeepsEveryColour)
 {
     page().dbconnect = "\t\t\t";
-    for (const std::int32_t colour : {std::numeric_limits<std::int32_t>::min(), -1, -0x7FFFFFFB, 0x12345678, 0})
-        for (const auto kind : colouredDialogs()) {
-            const std::int16_t index = kind ? addObject(*kind) : noObject;
+    for (const auto kind : colouredDialogs()) {
+        const std::int16_t index = kind ? addObject(*kind) : noObject;
+        const auto confirm = [](QDialog &d) { press(d, "ok"); };
+        for (const std::int32_t colour : {std::numeric_limits<std::int32_t>::min(), -1, -0x7FFFFFFB, 0x12345678, 0}) {
             (kind ? elementOf(page(), index)->BackColor : page().bkgcol) = colour;
             const std::string before = serialisePage(page());
-            const auto confirm = [](QDialog &d) { press(d, "ok"); };
             kind ? withDialog(index, confirm) : withDialogOf(kind, confirm);
             EXPECT_EQ(serialisePage(page()), before) << (kind ? kindRow(*kind).prefix : "page") << colour;
-            newPage();
-            page().bkgwd = 600;
-            page().bkght = 420;
-            page().dbconnect = "\t\t\t";
         }
+    }
 }
 
 TEST_F(DialogFields, AColourIsShownAsTypedAndRefusedWhenItIsNone)
@@ -151,15 +147,14 @@ TEST_F(DialogFields, WhatTheCodePageLacksIsRefusedHoweverItComes)
 TEST_F(DialogFields, AMessageAboutAFrameShowsItsField)
 {
     withDialogOf(Kind::Animation, [](QDialog &d) {
-        for (const char *duration : {"-1", "1"}) {
-            press(d, "lbbut0");
-            type(d, "duration", duration);
-        }
+        press(d, "lbbut0");
+        type(d, "duration", "-1");
+        press(d, "lbbut0");
         ScriptedAsking asking;
         asking.expectMessage("Invalid \"Duration\" for frame 1.", "Properties Error");
         press(d, "ok");
-        EXPECT_EQ(find<QListWidget>(d, "aniedit").currentRow(), 0);
         expectReturned(d, "duration");
+        EXPECT_EQ(find<QLineEdit>(d, "duration").text(), "-1");
         press(d, "cancbut");
     });
 }
