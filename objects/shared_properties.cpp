@@ -1,6 +1,7 @@
 #include "objects/shared_properties.h"
 
 #include "document/events.h"
+#include "document/parse.h"
 
 #include <algorithm>
 
@@ -52,6 +53,15 @@ void copy(const SharedField &field, const PropertyFields &from, PropertyFields &
         to.*field.flag = from.*field.flag;
     else
         to.font = from.font;
+}
+
+// A colour that is typed for many counts for those too whose own dialog would not let it be typed.
+bool colourIsTyped(const SharedFields &touched)
+{
+    for (std::size_t i = 0; i < sharedFieldCount; ++i)
+        if (touched[i] && sharedFields()[i].text == &PropertyFields::col)
+            return true;
+    return false;
 }
 
 std::optional<Kind> kindAt(std::int16_t index)
@@ -110,6 +120,8 @@ Confirmation ConfirmSharedProperties(const std::vector<std::int16_t> &indices, c
     touched &= LoadSharedProperties(indices).common;
     if (touched.none())
         return {true, ""};
+    if (colourIsTyped(touched) && !CheckColourText(values.col, "Invalid \"BackColor\"."))
+        return {false, "col"};
     std::vector<PropertyFields> changed;
     for (const std::int16_t index : indices) {
         changed.push_back(LoadProperties(index));

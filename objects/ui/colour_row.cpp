@@ -17,7 +17,7 @@ namespace {
 constexpr int swatchWidth = 28; // pixels
 constexpr int leastDigits = 10;
 
-// Shows the colour of a text as it is typed, and a cross for a text that is none.
+// Shows the colour of a text as it is typed, a cross for one that is none, and nothing without a text.
 class Swatch : public QWidget {
 public:
     explicit Swatch(QLineEdit &edit) : QWidget(edit.parentWidget()), field(edit)
@@ -41,6 +41,8 @@ protected:
             return painter.drawRect(area);
         }
         painter.drawRect(area);
+        if (text.empty())
+            return;
         painter.drawLine(area.topLeft(), area.bottomRight());
         painter.drawLine(area.bottomLeft(), area.topRight());
     }

@@ -82,4 +82,16 @@ TEST_F(SharedPropertiesOf, ObjectsChangeInWhatWasTouchedAndInOneEdit)
     EXPECT_EQ(acts.size(), 1U);
 }
 
+TEST_F(SharedPropertiesOf, AColourIsCheckedForTransparentLabelsToo)
+{
+    const std::vector<std::int16_t> both = {addAt(Kind::Label, 10, 10, 50, 20), addAt(Kind::Label, 90, 10, 50, 20)};
+    for (const std::int16_t index : both)
+        elementOf(page(), index)->BackStyle = 0;
+    PropertyFields values = LoadSharedProperties(both).values;
+    values.col = "blue";
+    ScriptedAsking asking;
+    asking.expectMessage("Invalid \"BackColor\".  A color is one to eight hexadecimal digits.", "Properties Error");
+    EXPECT_EQ(ConfirmSharedProperties(both, values, SharedFields().set(field("col"))).focus, "col");
+}
+
 } // namespace corvanta
