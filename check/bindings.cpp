@@ -1,10 +1,10 @@
 #include "actions/links.h"
 #include "check/rules.h"
+#include "database/sql.h"
 #include "document/page_file.h"
 #include "platform/text.h"
 
 #include <algorithm>
-#include <array>
 #include <cctype>
 #include <map>
 #include <set>
@@ -12,21 +12,6 @@
 namespace corvanta {
 
 namespace {
-
-// Words that no database takes as a column's name without quotes.
-constexpr std::array reservedWords{
-    "all",    "and",    "any",     "as",         "between", "by",       "case",  "check",  "column", "constraint",
-    "create", "cross",  "default", "delete",     "desc",    "distinct", "drop",  "else",   "end",    "except",
-    "exists", "for",    "foreign", "from",       "full",    "grant",    "group", "having", "in",     "inner",
-    "insert", "into",   "is",      "join",       "left",    "like",     "not",   "null",   "on",     "or",
-    "order",  "outer",  "primary", "references", "right",   "select",   "set",   "table",  "then",   "to",
-    "union",  "unique", "update",  "user",       "using",   "values",   "when",  "where",  "with"};
-
-bool isReserved(std::string_view word)
-{
-    return std::any_of(reservedWords.begin(), reservedWords.end(),
-                       [&](std::string_view reserved) { return sameText(word, reserved); });
-}
 
 bool isNameCharacter(char c)
 {
@@ -70,7 +55,7 @@ std::string quotingFault(const std::string &column)
         return "\"" + column + "\" is quoted as a whole: databases take the table for a part of the column's name";
     }
     const std::string name = dot == std::string::npos ? column : column.substr(dot + 1);
-    return isReserved(name) ? "\"" + name + "\" is a reserved word" : "";
+    return isReservedWord(name) ? "\"" + name + "\" is a reserved word" : "";
 }
 
 } // namespace

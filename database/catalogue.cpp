@@ -35,7 +35,7 @@ template <class Entry> struct Listing {
 struct Library {
     OdbcHandle environment{nullptr, nullptr};
     std::vector<OpenConnection> connections;
-    Listing<std::string> sources;
+    Listing<ListedName> sources;
     Listing<OdbcTable> tables;
     Listing<OdbcColumn> columns;
 };
@@ -84,13 +84,13 @@ std::int32_t GetFirstOdbcDsn(char *name)
 
 std::int32_t GetNextOdbcDsn(char *name)
 {
-    const std::string *source = library().sources.take();
-    return source ? giveName(*source, name) : failure;
+    const ListedName *source = library().sources.take();
+    return source ? giveName(source->name, name) : failure;
 }
 
-std::int32_t ConnectDsn(const char *dsn, const char *user, const char *password)
+std::int32_t ConnectDsn(const char *dsn, const char *user, const char *password, std::string *reason)
 {
-    OdbcHandle handle = connectOdbc(environment(), dsn, user, password);
+    OdbcHandle handle = connectOdbc(environment(), dsn, user, password, reason);
     if (!handle)
         return failure;
     DisconnectDsn(dsn, user);
@@ -122,7 +122,7 @@ std::int32_t GetFirstTableName(const char *dsn, const char *user, const char *, 
 std::int32_t GetNextTableName(char *name)
 {
     const OdbcTable *table = library().tables.take();
-    return table ? giveName(table->name, name) : failure;
+    return table ? giveName(table->name.listed.name, name) : failure;
 }
 
 std::int32_t GetFirstColumn(const char *dsn, const char *user, const char *, const char *table, char *name,
@@ -133,10 +133,9 @@ std::int32_t GetFirstColumn(const char *dsn, const char *user, const char *, con
     if (!connection)
         return failure;
     std::string wanted = table;
-    // A listed table is asked for as the driver spelt it: its name may have been cut or hold characters that
-    // the code page lacks.
+    // A listed table is asked for as the driver spelt it.
     auto listed = std::find_if(connection->tables.begin(), connection->tables.end(),
-                               [&](const OdbcTable &t) { return t.name.substr(0, nameBufferSize - 1) == wanted; });
+                               [&](const OdbcTable &t) { return t.name.listed.name == wanted; });
     library().columns.start(
         odbcColumns(connection->handle.get(), listed == connection->tables.end() ? odbcTableNamed(wanted) : *listed));
     return GetNextColumn(name, type, length);
@@ -150,6 +149,30 @@ std::int32_t GetNextColumn(char *name, std::int16_t &type, std::int16_t &length)
     type = column->type;
     length = column->length;
     return giveName(column->name, name);
+}
+
+std::vector<std::string> shownSources()
+{
+    std::vector<std::string> shown;
+    for (const ListedName &source : library().sources.entries)
+        shown.push_back(source.shown);
+    return shown;
+}
+
+std::vector<TableFacts> tableFacts()
+{
+    std::vector<TableFacts> facts;
+    for (const OdbcTable &t : library().tables.entries)
+        facts.push_back({t.name.listed.shown, t.name.dropped, t.view});
+    return facts;
+}
+
+std::vector<ColumnFacts> columnFacts()
+{
+    std::vector<ColumnFacts> facts;
+    for (const OdbcColumn &c : library().columns.entries)
+        facts.push_back({c.typeName, c.key});
+    return facts;
 }
 
 std::int32_t OdbcNameEndDll()

@@ -2,6 +2,8 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string>
+#include <vector>
 
 // The ODBC catalogue: data sources, tables and columns. Texts are NUL-terminated bytes of the code page; a
 // name is written into a buffer of nameBufferSize bytes that the caller owns, and cut when it is longer.
@@ -12,17 +14,18 @@ namespace corvanta {
 
 inline constexpr std::size_t nameBufferSize = 256;
 
-// The data sources of the user and of the system, each name once.
+// The data sources of the user and of the system that can be connected to, each name once.
 std::int32_t GetFirstOdbcDsn(char *name);
 std::int32_t GetNextOdbcDsn(char *name);
 
-// Connects within the log-in time-out of five seconds. Why a connection failed is told on standard error
-// (SQLSTATE and the driver's text, without the password). A file database is never created.
-std::int32_t ConnectDsn(const char *dsn, const char *user, const char *password);
+// Connects within the log-in time-out of five seconds. Why a connection failed is told on standard error and in the
+// reason, in lines of UTF-8 (SQLSTATE and the driver's text, without the password). A file database is never created.
+std::int32_t ConnectDsn(const char *dsn, const char *user, const char *password, std::string *reason = nullptr);
 // Drops the connection that was made with these values.
 std::int32_t DisconnectDsn(const char *dsn, const char *user);
 
-// Tables and views of a connected source in the driver's order, without system tables.
+// Tables and views of a connected source's own catalogue in the driver's order, without system tables. No two have the
+// same name: where they would, the schema or the driver's spelling stands behind it.
 std::int32_t GetFirstTableName(const char *dsn, const char *user, const char *password, char *name);
 std::int32_t GetNextTableName(char *name);
 
@@ -31,6 +34,20 @@ std::int32_t GetNextTableName(char *name);
 std::int32_t GetFirstColumn(const char *dsn, const char *user, const char *password, const char *table, char *name,
                             std::int16_t &type, std::int16_t &length);
 std::int32_t GetNextColumn(char *name, std::int16_t &type, std::int16_t &length);
+
+// What else is known of the names of the last listing, parallel to them. Texts shown are UTF-8.
+struct TableFacts {
+    std::string shown;   // the name as people read it
+    std::string dropped; // the name in SQL, in the code page; empty when no text of the code page reaches the table
+    bool view = false;
+};
+struct ColumnFacts {
+    std::string type; // the driver's whole type
+    bool key = false; // belongs to the primary key
+};
+std::vector<std::string> shownSources();
+std::vector<TableFacts> tableFacts();
+std::vector<ColumnFacts> columnFacts();
 
 // Drops every connection and releases the library; a later call starts it again.
 std::int32_t OdbcNameEndDll();

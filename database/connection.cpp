@@ -3,6 +3,7 @@
 #include "database/catalogue.h"
 #include "document/tablist.h"
 #include "platform/asking.h"
+#include "platform/codepage.h"
 #include "platform/text.h"
 
 namespace corvanta {
@@ -42,8 +43,9 @@ bool SelectDataSource(Connection &c, std::string_view reply)
     std::string source = fieldAt(reply, 0), user = fieldAt(reply, 1), password = fieldAt(reply, 2);
     if (source.empty() || source == c.source)
         return false;
-    if (ConnectDsn(source.c_str(), user.c_str(), password.c_str()) != 0) {
-        showExclamation("Failure connecting to " + source, "Error");
+    std::string reason;
+    if (ConnectDsn(source.c_str(), user.c_str(), password.c_str(), &reason) != 0) {
+        showMessage({.text = "Failure connecting to " + source, .title = "Error", .further = fromUtf8Lossy(reason)});
         return false;
     }
     if (!c.source.empty())

@@ -2,8 +2,20 @@
 
 #include "platform/text.h"
 
+#include <algorithm>
+#include <array>
+
 namespace corvanta {
 namespace {
+
+// Words that no database takes as a column's name without quotes.
+constexpr std::array reservedWords{
+    "all",    "and",    "any",     "as",         "between", "by",       "case",  "check",  "column", "constraint",
+    "create", "cross",  "default", "delete",     "desc",    "distinct", "drop",  "else",   "end",    "except",
+    "exists", "for",    "foreign", "from",       "full",    "grant",    "group", "having", "in",     "inner",
+    "insert", "into",   "is",      "join",       "left",    "like",     "not",   "null",   "on",     "or",
+    "order",  "outer",  "primary", "references", "right",   "select",   "set",   "table",  "then",   "to",
+    "union",  "unique", "update",  "user",       "using",   "values",   "when",  "where",  "with"};
 
 ValueClass inputClass(std::int16_t inptype)
 {
@@ -66,6 +78,12 @@ ValueClass valueClass(const Page &p, std::int16_t index)
     case Kind::Url: break;
     }
     return ValueClass::Text;
+}
+
+bool isReservedWord(std::string_view word)
+{
+    return std::any_of(reservedWords.begin(), reservedWords.end(),
+                       [&](std::string_view reserved) { return sameText(word, reserved); });
 }
 
 std::string quotedIfBlank(std::string_view name)

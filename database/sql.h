@@ -13,6 +13,9 @@ namespace corvanta {
 enum class ValueClass { Text, Number, Date };
 ValueClass valueClass(const Page &p, std::int16_t index);
 
+// Whether no database takes the word as a name without quotes.
+bool isReservedWord(std::string_view word);
+
 // A name as it stands in a statement: in double quotes when it holds a blank.
 std::string quotedIfBlank(std::string_view name);
 

@@ -1,13 +1,11 @@
 #include "database/statement.h"
 
+#include "database/catalogue_handles.h"
 #include "platform/codepage.h"
 
 #include <algorithm>
 #include <condition_variable>
 #include <mutex>
-#include <sql.h>
-#include <sqlext.h>
-#include <sqlucode.h>
 #include <thread>
 
 namespace corvanta {
@@ -16,47 +14,19 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr std::size_t messageLimit = 1024, chunkUnits = 4096; // UTF-16 units
-constexpr SQLSMALLINT mostMessages = 8;
+constexpr std::size_t chunkUnits = 4096;     // UTF-16 units
 constexpr std::size_t longestVarchar = 4000; // characters that every driver takes as a plain text
-
-static_assert(sizeof(SQLWCHAR) == sizeof(char16_t));
-
-SQLWCHAR *odbcText(const std::u16string &text)
-{
-    return const_cast<SQLWCHAR *>(reinterpret_cast<const SQLWCHAR *>(text.c_str()));
-}
-
-std::string utf8Of(const SQLWCHAR *text) { return utf8FromUtf16(reinterpret_cast<const char16_t *>(text)); }
 
 void takeDiagnosis(SQLSMALLINT kind, SQLHANDLE handle, SqlResult &result)
 {
-    for (SQLSMALLINT number = 1; number <= mostMessages; ++number) {
-        SQLWCHAR state[SQL_SQLSTATE_SIZE + 1] = {}, text[messageLimit] = {};
-        SQLINTEGER native = 0;
-        SQLSMALLINT length = 0;
-        if (!SQL_SUCCEEDED(SQLGetDiagRecW(kind, handle, number, state, &native, text, messageLimit, &length)))
-            break;
-        if (number == 1)
-            result.state = utf8Of(state);
-        result.error += (number == 1 ? "" : "\n") + utf8Of(state) + " " + utf8Of(text);
+    for (const OdbcDiagnosis &d : odbcDiagnoses(kind, handle)) {
+        if (result.error.empty())
+            result.state = d.state;
+        result.error += (result.error.empty() ? "" : "\n") + d.state + " " + d.text;
     }
     if (result.error.empty())
         result.error = "The driver gives no reason.";
 }
-
-// A handle that ends with its statement.
-struct Statement {
-    explicit Statement(void *connection) { SQLAllocHandle(SQL_HANDLE_STMT, connection, &handle); }
-    Statement(const Statement &) = delete;
-    Statement &operator=(const Statement &) = delete;
-    ~Statement()
-    {
-        if (handle)
-            SQLFreeHandle(SQL_HANDLE_STMT, handle);
-    }
-    SQLHSTMT handle = nullptr;
-};
 
 bool isTextType(std::int16_t type)
 {
@@ -106,11 +76,11 @@ std::vector<SqlColumn> describe(SQLHSTMT handle)
     std::vector<SqlColumn> columns(static_cast<std::size_t>(std::max<SQLSMALLINT>(count, 0)));
     SQLUSMALLINT number = 0;
     for (SqlColumn &column : columns) {
-        SQLWCHAR name[messageLimit] = {};
+        SQLWCHAR name[odbcTextLimit] = {};
         SQLSMALLINT length = 0, nullable = 0;
         SQLULEN size = 0;
-        SQLDescribeColW(handle, ++number, name, messageLimit, &length, &column.type, &size, &column.digits, &nullable);
-        column.name = utf8Of(name);
+        SQLDescribeColW(handle, ++number, name, odbcTextLimit, &length, &column.type, &size, &column.digits, &nullable);
+        column.name = utf8OfOdbc(name);
         column.size = size;
     }
     return columns;
@@ -243,10 +213,10 @@ SqlResult run(void *connection, const SqlStatement &statement, const SqlLimits &
     SqlResult result;
     const auto start = Clock::now();
     for (const Units units : {Units::Wide, Units::Narrow}) {
-        Statement own(connection);
+        const OdbcHandle own = newStatement(connection);
         result = {};
-        if (own.handle)
-            execute(own.handle, statement, units, limits, result);
+        if (own)
+            execute(own.get(), statement, units, limits, result);
         else
             takeDiagnosis(SQL_HANDLE_DBC, connection, result);
         if (statement.parameters.empty() || !refusesUnits(result))
@@ -254,14 +224,6 @@ SqlResult run(void *connection, const SqlStatement &statement, const SqlLimits &
     }
     result.milliseconds = std::chrono::duration<double, std::milli>(Clock::now() - start).count();
     return result;
-}
-
-bool isSqlite(void *connection)
-{
-    SQLWCHAR name[messageLimit] = {};
-    SQLSMALLINT length = 0;
-    SQLGetInfoW(connection, SQL_DBMS_NAME, name, sizeof name, &length);
-    return utf8Of(name).starts_with("SQLite");
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "preview/data_source.h"
 
+#include "database/catalogue_reason.h"
 #include "platform/codepage.h"
 
 #include <algorithm>
@@ -9,13 +10,6 @@ namespace corvanta {
 namespace {
 
 constexpr std::size_t mostSources = 8;
-
-void withoutSecret(std::string &text, const std::string &secret)
-{
-    const std::string utf8 = toUtf8(secret);
-    for (std::size_t at = 0; !utf8.empty() && (at = text.find(utf8, at)) != std::string::npos; at += 3)
-        text.replace(at, utf8.size(), "***");
-}
 
 SqlResult failed(std::string error)
 {
@@ -82,7 +76,7 @@ SqlResult DataSources::run(const PageSource &source, SqlUse use, const std::func
         if (fresh || use == SqlUse::Writing) // a change may have been made before the connection went
             break;
     }
-    withoutSecret(result.error, entry.used.password);
+    result.error = withoutPassword(result.error, toUtf8(entry.used.password));
     return result;
 }
 

@@ -1,5 +1,6 @@
 #include "preview/record_statements.h"
 
+#include "database/sql.h"
 #include "platform/codepage.h"
 #include "platform/text.h"
 
@@ -36,9 +37,39 @@ std::string quotedName(const std::string &name)
     return toUtf8(text + '"');
 }
 
-// "schema.table" is two names.
+// The length of the name that a text begins with, plain or in marks; 0 when there is none.
+std::size_t nameLength(std::string_view text)
+{
+    const std::size_t open = text.starts_with("U&\"") ? 2 : 0;
+    const char mark = text.size() > open ? text[open] : '\0';
+    if (mark != '"' && mark != '`')
+        return isPlainName(text.substr(0, text.find('.'))) ? std::min(text.find('.'), text.size()) : 0;
+    for (std::size_t at = open + 1; at < text.size(); ++at)
+        if (text[at] == mark && text.substr(at + 1, 1) != std::string_view(&mark, 1))
+            return at + 1;
+        else if (text[at] == mark)
+            ++at;
+    return 0;
+}
+
+// Whether a text is names with full stops between them and nothing else.
+bool isNamesInSql(std::string_view text)
+{
+    for (;;) {
+        const std::size_t length = nameLength(text);
+        if (length == 0 || length == text.size())
+            return length != 0;
+        if (text[length] != '.')
+            return false;
+        text.remove_prefix(length + 1);
+    }
+}
+
+// "schema.table" is two names. A dropped name may hold marks, but for those around one with a blank.
 std::string quotedTable(const std::string &table)
 {
+    if (table.find_first_of("\"`") != std::string::npos && isNamesInSql(quotedIfBlank(table)))
+        return toUtf8(quotedIfBlank(table));
     const std::size_t dot = table.find('.');
     return dot == std::string::npos ? quotedName(table)
                                     : quotedName(table.substr(0, dot)) + "." + quotedName(table.substr(dot + 1));

@@ -20,6 +20,7 @@ FUZZ_PACKAGES=(
 # Left out by ./test --quick: servers, browsers, the virtual screen's tools.
 FULL_TEST_PACKAGES=(
   xvfb openbox xdotool xclip imagemagick x11-utils libsqliteodbc odbc-postgresql postgresql sqlite3
+  odbc-mariadb mariadb-server-core mariadb-client-core
   fonts-liberation fonts-dejavu-core chromium pulseaudio pulseaudio-utils
 )
 command -v node >/dev/null || FULL_TEST_PACKAGES+=(nodejs npm)

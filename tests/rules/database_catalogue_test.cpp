@@ -1,4 +1,6 @@
 #include "database/catalogue.h"
+#include "database/catalogue_names.h"
+#include "database/catalogue_reason.h"
 #include "database/connection.h"
 #include "platform/codepage.h"
 #include "tests/support/database_sources.h"
@@ -59,6 +61,16 @@ TEST_F(Catalogue, ListsSourcesOfUserAndSystemOnce)
         EXPECT_EQ(std::count(names.begin(), names.end(), name), 1) << name;
     char name[nameBufferSize];
     EXPECT_NE(GetNextOdbcDsn(name), 0);
+    EXPECT_EQ(std::count_if(names.begin(), names.end(), [](const std::string &n) { return n.starts_with("Ein "); }), 0);
+    const std::vector<std::string> shown = shownSources();
+    ASSERT_EQ(shown.size(), names.size());
+    for (const auto &[source, table] : {std::pair("?? (表一)", "Customers"), std::pair("?? (表二)", "Types")}) {
+        const auto place = std::find(shown.begin(), shown.end(), source);
+        ASSERT_NE(place, shown.end());
+        const std::string &dsn = names[static_cast<std::size_t>(place - shown.begin())];
+        ASSERT_EQ(ConnectDsn(dsn.c_str(), "", ""), 0);
+        EXPECT_EQ(tablesOf(dsn.c_str()).front(), table);
+    }
 }
 
 TEST_F(Catalogue, ListsTablesAndViewsOfTheShop)
@@ -113,6 +125,77 @@ TEST_F(Catalogue, TakesNamesLiterally)
         if (!listed)
             tablesOf("Types");
     }
+    EXPECT_EQ(columnsOf("Types", "?? (U+8868 U+4E00)"), (Types{{"one", {1, 10}}}));
+    EXPECT_TRUE(columnFacts().front().key);
+    EXPECT_EQ(columnsOf("Types", "?? (U+8868 U+4E8C)"), (Types{{"two", {1, 10}}}));
+    EXPECT_FALSE(columnFacts().front().key);
+}
+
+TEST(CatalogueNames, AreUnlikeEachOtherAndReachTheirTables)
+{
+    setCodePage(1252);
+    const std::u16string longName(300, u'n');
+    NameRules postgres, maria;
+    postgres.firstSchema = u"public";
+    postgres.folding = NameRules::Folding::Lower;
+    postgres.escapes = true;
+    maria.quote = u"`";
+    const struct {
+        std::u16string qualifier, name;
+        const char *listed, *shown, *inPostgres, *inMaria;
+    } cases[] = {
+        {u"public", u"twin", "twin", "twin", "twin", "public.twin"},
+        {u"other", u"twin", "twin (other)", "twin (other)", "other.twin", "other.twin"},
+        {u"My Schema", u"twin", "twin (My Schema)", "twin (My Schema)", "My Schema\".\"twin", "My Schema\".\"twin"},
+        {u"public", u"twin (other)", "twin (other) (2)", "twin (other) (2)", "twin (other)", "public\".\"twin (other)"},
+        {u"other", u"lonely", "lonely", "lonely", "other.lonely", "other.lonely"},
+        {u"public", u"Order", "Order", "Order", "\"Order\"", "public.`Order`"},
+        {u"public", u"a-b.c\"", "a-b.c\"", "a-b.c\"", "\"a-b.c\"\"\"", "public.`a-b.c\"`"},
+        {u"public", u"say \"hi\"", "say \"hi\"", "say \"hi\"", "say \"\"hi\"\"", "public\".\"say \"\"hi\"\""},
+        {u"public", u"表一", "?? (U+8868 U+4E00)", "?? (表一)", "U&\"\\8868\\4E00\"", ""},
+        {u"My Schema", u"表 二", "? ?", "? ? (表 二)",
+         "U&\"\\004D\\0079\\0020\\0053\\0063\\0068\\0065\\006D\\0061\".U&\"\\8868\\0020\\4E8C\"", ""},
+        {u"public", u"表丁", "?? (U+8868 U+4E01)", "?? (表丁)", "U&\"\\8868\\4E01\"", ""},
+    };
+    std::vector<DriverTable> tables;
+    for (const auto &c : cases)
+        tables.push_back({c.qualifier, c.name});
+    tables.insert(tables.end(), {{u"", longName + u"1"}, {u"", longName + u"2"}});
+    const std::vector<TableName> names = tableNames(tables, postgres), inMaria = tableNames(tables, maria);
+    for (std::size_t i = 0; i < std::size(cases); ++i) {
+        EXPECT_EQ(names[i].listed.name, cases[i].listed);
+        EXPECT_EQ(names[i].listed.shown, cases[i].shown);
+        EXPECT_EQ(names[i].dropped, cases[i].inPostgres);
+        EXPECT_EQ(inMaria[i].dropped, cases[i].inMaria);
+    }
+    for (const std::size_t i : {std::size(cases), std::size(cases) + 1})
+        EXPECT_EQ(names[i].listed.name.size(), nameBufferSize - 1);
+    EXPECT_NE(names.back().listed.name, names[names.size() - 2].listed.name);
+}
+
+TEST(CatalogueReason, MasksThePasswordOnlyAsAWholeWord)
+{
+    const std::string untold = withoutPassword("xsecretx", "secret");
+    EXPECT_EQ(untold.find("secret"), std::string::npos);
+    const struct {
+        const char *text, *password;
+        std::string told;
+    } cases[] = {{"no connection for \"secret\".", "secret", "no connection for \"***\"."},
+                 {"secret:secret@host", "secret", "***:***@host"},
+                 {"no connection", "", "no connection"},
+                 {"no connection", "o", untold},
+                 {"secret and secret2", "secret", untold},
+                 {"Secret", "secret", untold},
+                 {"PWD={a}}b}", "a}b", untold},
+                 {"//ann:p%3Aw@host", "p:w", untold},
+                 {"gr\xC3\x83\xC2\xB6\xC3\x83\xC2\x9F"
+                  "er",
+                  "gr\xC3\xB6\xC3\x9F"
+                  "er",
+                  untold},
+                 {"mask ***", "***", untold}};
+    for (const auto &c : cases)
+        EXPECT_EQ(withoutPassword(c.text, c.password), c.told) << c.text;
 }
 
 TEST_F(Catalogue, FailsWithoutAFileAndCreatesNone)
@@ -124,6 +207,8 @@ TEST_F(Catalogue, FailsWithoutAFileAndCreatesNone)
 TEST_F(Catalogue, TellsWhyWithoutThePassword)
 {
     EXPECT_NE(failureOf("Lost Driver", "").find("IM002 "), std::string::npos);
+    EXPECT_EQ(failureOf("Lost Driver", "").find("package"), std::string::npos);
+    EXPECT_NE(failureOf("Away", "").find("package odbc-mariadb."), std::string::npos);
     std::string told = failureOf("No Such Source", "not found"); // words of the driver manager's text
     EXPECT_NE(told.find("***"), std::string::npos);
     EXPECT_EQ(told.find("not found"), std::string::npos);

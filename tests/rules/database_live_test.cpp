@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <map>
+#include <span>
 #include <sql.h>
 #include <sqlext.h>
 
@@ -87,14 +88,102 @@ TEST_F(DatabaseLive, MapsTheTypesOfTheServer)
         EXPECT_GE(length, 0);
 }
 
-TEST_F(DatabaseLive, TakesTheColumnsOfOneTableOfManySchemas)
+// Runs a statement over a connection of its own; the driver's text when it fails.
+std::string failureOf(const std::string &source, const std::string &user, const std::string &password,
+                      const std::string &statement)
 {
-    ASSERT_TRUE(connectTo("Live"));
-    ASSERT_EQ(std::count(c.tables.begin(), c.tables.end(), "twin"), 2);
-    listColumnsOf("twin");
-    EXPECT_EQ(c.columns.size(), 1U);
-    listColumnsOf("a_b");
-    EXPECT_EQ(c.columns, std::vector<std::string>{"inside"});
+    auto text = [](const std::string &s) { return reinterpret_cast<SQLCHAR *>(const_cast<char *>(s.c_str())); };
+    SQLHANDLE environment = nullptr, connection = nullptr, handle = nullptr;
+    SQLAllocHandle(SQL_HANDLE_ENV, nullptr, &environment);
+    SQLSetEnvAttr(environment, SQL_ATTR_ODBC_VERSION, reinterpret_cast<SQLPOINTER>(SQL_OV_ODBC3), 0);
+    SQLAllocHandle(SQL_HANDLE_DBC, environment, &connection);
+    SQLCHAR state[6] = "", message[512] = "not connected";
+    if (SQL_SUCCEEDED(SQLConnect(connection, text(source), SQL_NTS, text(user), SQL_NTS, text(password), SQL_NTS))) {
+        message[0] = 0;
+        SQLAllocHandle(SQL_HANDLE_STMT, connection, &handle);
+        SQLRETURN done = SQLExecDirect(handle, text(statement), SQL_NTS);
+        while (SQL_SUCCEEDED(done) && done != SQL_NO_DATA)
+            done = SQLFetch(handle);
+        if (done != SQL_NO_DATA)
+            SQLGetDiagRec(SQL_HANDLE_STMT, handle, 1, state, nullptr, message, sizeof message, nullptr);
+        SQLFreeHandle(SQL_HANDLE_STMT, handle);
+        SQLDisconnect(connection);
+    }
+    SQLFreeHandle(SQL_HANDLE_DBC, connection);
+    SQLFreeHandle(SQL_HANDLE_ENV, environment);
+    return reinterpret_cast<const char *>(message);
+}
+
+// Each listed table shows its own columns, and what is dropped of it reaches it.
+struct NamedTable {
+    const char *listed, *column, *dropped;
+};
+constexpr NamedTable twins[] = {
+    {"twin", "here", "twin"},
+    {"twin (other)", "there", "other.twin"},
+    {"twin (My Schema)", "far", "My Schema\".\"twin"},
+    {"a_b", "inside", "a_b"},
+    {"axb", "outside", "axb"},
+    {"back\\slash", "path", "\"back\\slash\""},
+    {"Order", "n", "\"Order\""},
+    {"?? (U+8868 U+4E00)", "one", "U&\"\\8868\\4E00\""},
+    {"?? (U+8868 U+4E8C)", "two", "U&\"\\8868\\4E8C\""},
+};
+constexpr NamedTable mariaTables[] = {
+    {"twin", "here", "twin"},
+    {"seen", "here", "seen"},
+    {"a_b", "inside", "a_b"},
+    {"axb", "outside", "axb"},
+    {"back\\slash", "path", "`back\\slash`"},
+    {"order", "n", "`order`"},
+    {"?? (U+8868 U+4E00)", "one", ""},
+    {"?? (U+8868 U+4E8C)", "two", ""},
+};
+
+class NamedTables : public DatabaseLive {
+protected:
+    void expectTables(std::span<const NamedTable> tables)
+    {
+        const std::vector<TableFacts> facts = tableFacts();
+        ASSERT_EQ(facts.size(), c.tables.size());
+        for (const NamedTable &t : tables) {
+            listColumnsOf(t.listed);
+            EXPECT_EQ(c.columns, std::vector<std::string>{t.column}) << t.listed;
+            const std::string dropped = facts[static_cast<std::size_t>(c.listedTable)].dropped;
+            EXPECT_EQ(dropped, t.dropped);
+            if (!dropped.empty()) {
+                EXPECT_EQ(failureOf(c.source, c.user, toUtf8(c.password), selectWholeTable(dropped).text), "");
+            }
+        }
+    }
+};
+
+TEST_F(NamedTables, OfManySchemasAndScripts)
+{
+    for (const char *source : {"Live", "Live ANSI"}) {
+        ASSERT_TRUE(SelectDataSource(c, std::string(source) + "\treader\treader"));
+        expectTables(twins);
+        listColumnsOf("twin (My Schema)");
+        EXPECT_TRUE(columnFacts().front().key);
+        listColumnsOf("types");
+        EXPECT_EQ(columnFacts()[5].type + columnFacts()[13].type, "numeric(10,2)varchar(40)");
+    }
+}
+
+TEST_F(NamedTables, OfTheConnectionsOwnCatalogueAlone)
+{
+    if (!testsources::haveMariaDb())
+        GTEST_SKIP() << "no MariaDB";
+    ASSERT_TRUE(SelectDataSource(c, "Maria\tclerk\tsecret"));
+    EXPECT_EQ(c.tables.size(), std::size(mariaTables));
+    expectTables(mariaTables);
+}
+
+TEST_F(DatabaseLive, ADriverWithoutUnicodeTakesNamesInTheCodePage)
+{
+    ASSERT_TRUE(SelectDataSource(c, "West ANSI\tj\xFCrgen\tschl\xFCssel"));
+    listColumnsOf("gr\xF6\xDF\x65");
+    EXPECT_EQ(c.columns, std::vector<std::string>{"l\xE4nge"});
 }
 
 TEST_F(DatabaseLive, RefusesAWrongPasswordWithoutTellingIt)
@@ -149,32 +238,6 @@ std::string filled(const Page &p, std::string statement)
         if (!p.objects[index].ctlname.empty())
             replaceAll(statement, "@" + p.objects[index].ctlname + "@", inputFor(p, index));
     return statement;
-}
-
-// Runs a statement over a connection of its own; the driver's text when it fails.
-std::string failureOf(const std::string &source, const std::string &user, const std::string &password,
-                      const std::string &statement)
-{
-    auto text = [](const std::string &s) { return reinterpret_cast<SQLCHAR *>(const_cast<char *>(s.c_str())); };
-    SQLHANDLE environment = nullptr, connection = nullptr, handle = nullptr;
-    SQLAllocHandle(SQL_HANDLE_ENV, nullptr, &environment);
-    SQLSetEnvAttr(environment, SQL_ATTR_ODBC_VERSION, reinterpret_cast<SQLPOINTER>(SQL_OV_ODBC3), 0);
-    SQLAllocHandle(SQL_HANDLE_DBC, environment, &connection);
-    SQLCHAR state[6] = "", message[512] = "not connected";
-    if (SQL_SUCCEEDED(SQLConnect(connection, text(source), SQL_NTS, text(user), SQL_NTS, text(password), SQL_NTS))) {
-        message[0] = 0;
-        SQLAllocHandle(SQL_HANDLE_STMT, connection, &handle);
-        SQLRETURN done = SQLExecDirect(handle, text(statement), SQL_NTS);
-        while (SQL_SUCCEEDED(done) && done != SQL_NO_DATA)
-            done = SQLFetch(handle);
-        if (done != SQL_NO_DATA)
-            SQLGetDiagRec(SQL_HANDLE_STMT, handle, 1, state, nullptr, message, sizeof message, nullptr);
-        SQLFreeHandle(SQL_HANDLE_STMT, handle);
-        SQLDisconnect(connection);
-    }
-    SQLFreeHandle(SQL_HANDLE_DBC, connection);
-    SQLFreeHandle(SQL_HANDLE_ENV, environment);
-    return reinterpret_cast<const char *>(message);
 }
 
 class GeneratedStatements : public DatabaseLive, public testing::WithParamInterface<const char *> {

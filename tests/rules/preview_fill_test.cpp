@@ -132,7 +132,17 @@ TEST_F(PreviewFill, RecordsAreChangedByTheirUpdateKeys)
     EXPECT_EQ(told(deleteStatement(p, {columns, columns, row})), "! The page has no update key.");
     p.dbconnect = "Shop\t\t\tmain.x\" Where 1=1 --";
     EXPECT_EQ(told(deleteStatement(p, {columns, columns, row})).substr(0, 2), "! ");
-    EXPECT_EQ(describingStatement(p).text, "Select * From main.\"x\"\" Where 1=1 --\" Where 1 = 0");
+    for (const auto &[table, quoted] :
+         std::map<std::string, std::string>{{"main.x\" Where 1=1 --", "main.\"x\"\" Where 1=1 --\""},
+                                            {"other.twin", "other.twin"},
+                                            {"\"Order\"", "\"Order\""},
+                                            {"My Schema\".\"twin", "\"My Schema\".\"twin\""},
+                                            {"U&\"\\8868\".\"a.\"\"b\"", "U&\"\\8868\".\"a.\"\"b\""},
+                                            {"`a-b`", "`a-b`"},
+                                            {"\"x\";y\"", "\"\"\"x\"\";y\"\"\""}}) {
+        p.dbconnect = "Shop\t\t\t" + table;
+        EXPECT_EQ(describingStatement(p).text, "Select * From " + quoted + " Where 1 = 0");
+    }
 }
 
 TEST_F(PreviewFill, ValuesInATemplateAreNeitherMarkupNorAddressesOfTheirChoice)

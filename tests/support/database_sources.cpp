@@ -27,6 +27,8 @@ create table "say ""hi"""(greeting varchar(7));
 create table "back\slash"(path varchar(9));
 create table "Straße €"("Größe" varchar(3));
 create table "Ω"("Ωmega 𝄞" integer);
+create table "表一"(one integer primary key);
+create table "表二"(two integer);
 insert into Types(a_real) values(1);
 )sql";
 
@@ -69,10 +71,15 @@ std::filesystem::path makeSources()
 
     std::string shop = "Database=" + (folder / "shop.db").string();
     const char *port = std::getenv("CORVANTA_TEST_POSTGRES_PORT");
-    std::string server = "Servername=127.0.0.1\nDatabase=shop\nPort=" + std::string(port ? port : "1");
+    const auto server = [port](const std::string &database) {
+        return "Servername=127.0.0.1\nDatabase=" + database + "\nPort=" + std::string(port ? port : "1");
+    };
+    const char *mariaPort = std::getenv("CORVANTA_TEST_MARIADB_PORT");
+    std::string maria = "Server=127.0.0.1\nDatabase=shop\nPort=" + std::string(mariaPort ? mariaPort : "1");
     std::ofstream(folder / "odbcinst.ini")
         << section("SQLite3", "libsqlite3odbc.so", "") << section("PostgreSQL Unicode", "psqlodbcw.so", "")
-        << section("PostgreSQL ANSI", "psqlodbca.so", "");
+        << section("PostgreSQL ANSI", "psqlodbca.so", "") << section("MariaDB", "libmaodbc.so", "")
+        << section("MariaDB away", "/nowhere/libmaodbc.so", "");
     std::ofstream(folder / "odbc.ini") << section("Archive", "SQLite3", shop) << section("Shop", "SQLite3", shop);
     std::ofstream(folder / "user.ini") << section("Shop", "SQLite3", shop) << section("Größe", "SQLite3", shop)
                                        << section("Types", "SQLite3", "Database=" + (folder / "types.db").string())
@@ -81,8 +88,13 @@ std::filesystem::path makeSources()
                                        << section("Silent", "PostgreSQL Unicode",
                                                   "Servername=127.0.0.1\nDatabase=x\nPort=" +
                                                       std::to_string(silentPort()))
-                                       << section("Live", "PostgreSQL Unicode", server)
-                                       << section("Live ANSI", "PostgreSQL ANSI", server);
+                                       << section("Live", "PostgreSQL Unicode", server("shop"))
+                                       << section("Live ANSI", "PostgreSQL ANSI", server("shop"))
+                                       << section("West ANSI", "PostgreSQL ANSI", server("west"))
+                                       << section("Maria", "MariaDB", maria) << section("Away", "MariaDB away", "")
+                                       << section("表一", "SQLite3", shop)
+                                       << section("表二", "SQLite3", "Database=" + (folder / "types.db").string())
+                                       << section("Ein Name von mehr als 32 Bytes: ä", "SQLite3", shop);
     setenv("ODBCSYSINI", folder.c_str(), 1);
     setenv("ODBCINI", (folder / "user.ini").c_str(), 1);
     return folder;
@@ -100,6 +112,8 @@ const std::filesystem::path &setUp()
     static Sources sources;
     return sources.folder;
 }
+
+bool haveMariaDb() { return std::getenv("CORVANTA_TEST_MARIADB_PORT") != nullptr; }
 
 bool haveServer() { return std::getenv("CORVANTA_TEST_POSTGRES_PORT") != nullptr; }
 

@@ -9,5 +9,16 @@ CREATE TABLE axb (outside INTEGER);
 CREATE TABLE twin (here INTEGER);
 CREATE SCHEMA other;
 CREATE TABLE other.twin (there INTEGER);
+CREATE SCHEMA "My Schema";
+CREATE TABLE "My Schema".twin (far INTEGER PRIMARY KEY);
+CREATE TABLE "back\slash" (path VARCHAR(9));
+CREATE TABLE "Order" (n INTEGER);
+CREATE TABLE "表一" (one INTEGER);
+CREATE TABLE "表二" (two INTEGER);
+CREATE DATABASE west ENCODING 'LATIN1' TEMPLATE template0 LC_COLLATE 'C' LC_CTYPE 'C';
+\connect west
+CREATE ROLE "jürgen" LOGIN PASSWORD 'schlüssel';
+CREATE TABLE "größe" ("länge" INTEGER);
+\connect shop
 CREATE MATERIALIZED VIEW standing AS SELECT Name, City FROM Customers;
 CREATE ROLE reader LOGIN PASSWORD 'reader' IN ROLE pg_read_all_data;
