@@ -7,8 +7,8 @@ namespace corvanta {
 
 void acceptColumn(QWidget &field, std::function<void(const DroppedColumn &)> dropped)
 {
-    acceptDrag(field, "fld", [dropped](const QByteArray &payload) {
-        if (const auto column = columnOfDrag(payload.toStdString()))
+    acceptDrag(field, "fld", [dropped](const DragPayload &drag) {
+        if (const auto column = columnOfDrag(drag.payload.toStdString()))
             dropped(*column);
     });
 }

@@ -89,10 +89,14 @@ void PageDialog::addConnection(QBoxLayout &layout)
     QLineEdit *dsn = tie(addTextRow(group.fields, "dsn", "Data Source:"), &PagePropertyFields::dsn);
     QLineEdit *user = tie(addTextRow(group.fields, "Username", "User Name:"), &PagePropertyFields::Username);
     QLineEdit *password = tie(addPasswordRow(group.fields, "Password", "Password:"), &PagePropertyFields::Password);
-    acceptDrag(*dsn, "dsn", [dsn, user, password](const QByteArray &source) {
-        dsn->setText(toQString(source.toStdString()));
-        user->setText(toQString(connection().user));
-        password->setText(toQString(connection().password));
+    acceptDrag(*dsn, "dsn", [dsn, user, password](const DragPayload &drag) {
+        const QString source = toQString(drag.payload.toStdString());
+        const bool other = source != dsn->text(); // user and password of the former source are not its own
+        dsn->setText(source);
+        if (drag.ours || other) {
+            user->setText(drag.ours ? toQString(connection().user) : QString());
+            password->setText(drag.ours ? toQString(connection().password) : QString());
+        }
     });
 }
 
@@ -103,7 +107,8 @@ void PageDialog::addDatabase(QBoxLayout &layout)
     deftbl = tie(addTextRow(group.fields, "deftbl", "Default Table:"), &PagePropertyFields::deftbl);
     statement = tie(addTextAreaRow(group.fields, "SelectStmt", "Select:"), &PagePropertyFields::SelectStmt);
     generate = addButtonRow(*group.contents, {{"generate", "Generate", [this] { generateStatement(); }}}).front();
-    acceptDrag(*deftbl, "dbs", [this](const QByteArray &table) { deftbl->setText(toQString(table.toStdString())); });
+    acceptDrag(*deftbl, "dbs",
+               [this](const DragPayload &drag) { deftbl->setText(toQString(drag.payload.toStdString())); });
 }
 
 void PageDialog::addFlags(QBoxLayout &layout)

@@ -12,11 +12,13 @@ class QMimeData;
 // tool, "fld" for a column) and its payload. It travels in the mime data, so that a drop needs no source widget.
 namespace corvanta {
 
-inline constexpr char dragMimeType[] = "application/x-corvanta-drag";
+inline constexpr char dragMimeType[] = "application/x-corvanta-drag",
+                      processMimeType[] = "application/x-corvanta-process"; // tells this process from other editors
 
 struct DragPayload {
     std::string tag;
     QByteArray payload; // "obj": the kind code in decimal
+    bool ours = false;  // dragged from a window of this process
 };
 
 // The mime data of a drag; it belongs to the QDrag that takes it.

@@ -1,7 +1,5 @@
 #include "platform/qt/drop_target.h"
 
-#include "platform/qt/drag.h"
-
 #include <QDropEvent>
 #include <QMimeData>
 #include <QWidget>
@@ -12,7 +10,7 @@ namespace {
 
 class DropFilter : public QObject {
 public:
-    DropFilter(QWidget &widget, std::string tagOfSource, std::function<void(const QByteArray &)> drop)
+    DropFilter(QWidget &widget, std::string tagOfSource, std::function<void(const DragPayload &)> drop)
         : QObject(&widget), tag(std::move(tagOfSource)), dropped(std::move(drop))
     {
     }
@@ -38,17 +36,17 @@ private:
         event.setDropAction(Qt::CopyAction);
         event.accept();
         if (event.type() == QEvent::Drop)
-            dropped(payload->payload);
+            dropped(*payload);
         return true;
     }
 
     std::string tag;
-    std::function<void(const QByteArray &)> dropped;
+    std::function<void(const DragPayload &)> dropped;
 };
 
 } // namespace
 
-void acceptDrag(QWidget &widget, const char *tag, std::function<void(const QByteArray &)> dropped)
+void acceptDrag(QWidget &widget, const char *tag, std::function<void(const DragPayload &)> dropped)
 {
     widget.setAcceptDrops(true);
     widget.installEventFilter(new DropFilter(widget, tag, std::move(dropped)));

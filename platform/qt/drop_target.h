@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QByteArray>
+#include "platform/qt/drag.h"
 
 #include <functional>
 
@@ -8,7 +8,7 @@ class QWidget;
 
 namespace corvanta {
 
-// Lets a widget take the drags of one tag, and no others; dropped receives the payload.
-void acceptDrag(QWidget &widget, const char *tag, std::function<void(const QByteArray &)> dropped);
+// Lets a widget take the drags of one tag, and no others; dropped receives what it carries.
+void acceptDrag(QWidget &widget, const char *tag, std::function<void(const DragPayload &)> dropped);
 
 } // namespace corvanta

@@ -188,6 +188,9 @@ TEST_F(PagePropertiesWindow, TakesDraggedSourceAndTable)
     EXPECT_TRUE(dropOn(field("dsn"), "dsn", "Shop"));
     EXPECT_EQ(field("dsn").text() + field("Username").text() + field("Password").text(), "Shopannsecret");
     EXPECT_EQ(field("Password").echoMode(), QLineEdit::Password);
+    EXPECT_TRUE(dropOn(field("dsn"), "dsn", "Archive", {3, 3}, false));
+    EXPECT_EQ(field("dsn").text() + field("Username").text() + field("Password").text(), "Archive");
+    EXPECT_TRUE(dropOn(field("dsn"), "dsn", "Shop"));
     EXPECT_TRUE(dropOn(field("deftbl"), "dbs", "Order Lines"));
     EXPECT_EQ(field("deftbl").text(), "Order Lines");
     EXPECT_FALSE(dropOn(field("deftbl"), "dsn", "Shop"));
