@@ -13,7 +13,7 @@ namespace corvanta {
 
 namespace {
 
-constexpr const char *profileFile = "CORVANTA.INI", *section = "Corvanta Page Editor";
+constexpr const char *profileFile = "CORVANTA.INI", *section = "Corvanta Page Editor", *canvasSection = "Canvas";
 
 void readNumber(const char *key, int &value)
 {
@@ -21,9 +21,9 @@ void readNumber(const char *key, int &value)
     value = static_cast<int>(std::clamp(leadingNumber(stored), -1e6, 1e6));
 }
 
-void readTruth(const char *key, bool &value)
+void readTruth(const char *in, const char *key, bool &value)
 {
-    value = GetPrivateProfileInt(section, key, value ? -1 : 0, profileFile) != 0;
+    value = GetPrivateProfileInt(in, key, value ? -1 : 0, profileFile) != 0;
 }
 
 std::string storedDirectory()
@@ -49,8 +49,9 @@ WindowSettings loadSettings(const WindowSettings &current)
     readNumber("PageLeft", s.PageLeft);
     readNumber("PageHeight", s.PageHeight);
     readNumber("PageWidth", s.PageWidth);
-    readTruth("ShowToolbar", s.ShowToolbar);
-    readTruth("ShowStatus", s.ShowStatus);
+    readTruth(section, "ShowToolbar", s.ShowToolbar);
+    readTruth(section, "ShowStatus", s.ShowStatus);
+    readTruth(canvasSection, "ShowBindings", s.ShowBindings);
     editing().curdir = storedDirectory();
     return s;
 }
@@ -73,7 +74,7 @@ bool saveSettings(const WindowSettings &s)
                                                                      {"ShowStatus", truth(s.ShowStatus)},
                                                                      {"DefaultPath", editing().curdir}})
         written = write(key, value) && written;
-    return written;
+    return WritePrivateProfileString(canvasSection, "ShowBindings", truth(s.ShowBindings), profileFile) && written;
 }
 
 int keptOnScreen(int position, int extent, int screen) { return std::max(0, std::min(position, screen - extent)); }

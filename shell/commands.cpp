@@ -106,6 +106,13 @@ void markOdbcToolbar(bool shown)
     tell(roomCommands().toggleOdbc, shown);
 }
 
+void markBindings(bool shown)
+{
+    marks.bindings = shown;
+    commandEvents().marksChanged();
+    commandEvents().showBindings(shown);
+}
+
 void odbcToolbarClosed()
 {
     marks.odbcToolbar = false;
@@ -136,6 +143,7 @@ bool commandEnabled(Command command)
     case Command::Exit:
     case Command::MockToolbar:
     case Command::StatusPanel:
+    case Command::ShowBindings:
     case Command::Add:
     case Command::LoadObject: return true;
     case Command::ExportHtml: return bool(rooms.exportHtml);
@@ -186,11 +194,18 @@ std::string commandCaption(Command command)
     }
 }
 
+bool isMark(Command command)
+{
+    return command == Command::MockToolbar || command == Command::StatusPanel || command == Command::OdbcToolbar ||
+           command == Command::ShowBindings;
+}
+
 bool commandChecked(Command command)
 {
     return (command == Command::MockToolbar && marks.mockToolbar) ||
            (command == Command::StatusPanel && marks.statusPanel) ||
-           (command == Command::OdbcToolbar && marks.odbcToolbar);
+           (command == Command::OdbcToolbar && marks.odbcToolbar) ||
+           (command == Command::ShowBindings && marks.bindings);
 }
 
 void runCommand(Command command)
@@ -236,6 +251,7 @@ void runCommand(Command command)
     case Command::SelectAll: selectAllObjects(); break;
     case Command::TabOrder: startTabOrder(); break;
     case Command::SharedProperties: tell(rooms.openSharedProperties); break;
+    case Command::ShowBindings: markBindings(!marks.bindings); break;
     case Command::CheckPage: tell(rooms.checkPage); break;
     case Command::Preview: tell(rooms.preview); break;
     case Command::BringToFront: restack(true); break;

@@ -33,13 +33,14 @@ struct CommandEvents {
     Event<> marksChanged;        // check marks of the Page menu
     Event<bool> showMockToolbar; // on the canvas window
     Event<bool> showStatusPanel;
+    Event<bool> showBindings;
 };
 
 CommandEvents &commandEvents();
 
-// The check marks of the Page menu.
+// The check marks of the Page menu, and that of the canvas's context menu.
 struct PageMenuMarks {
-    bool mockToolbar = true, statusPanel = true, odbcToolbar = false;
+    bool mockToolbar = true, statusPanel = true, odbcToolbar = false, bindings = false;
 };
 
 const PageMenuMarks &pageMenuMarks();
@@ -48,6 +49,7 @@ const PageMenuMarks &pageMenuMarks();
 void markMockToolbar(bool shown);
 void markStatusPanel(bool shown);
 void markOdbcToolbar(bool shown);
+void markBindings(bool shown);
 // The ODBC tool window was closed by itself: its check mark goes.
 void odbcToolbarClosed();
 
@@ -62,6 +64,7 @@ struct ObjectCommandState {
 ObjectCommandState objectCommandState();
 
 bool commandEnabled(Command command);
+bool isMark(Command command); // is checked or not
 bool commandChecked(Command command);
 // What a command is called at the moment, where that changes ("Undo Move"); else empty.
 std::string commandCaption(Command command);

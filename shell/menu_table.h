@@ -46,6 +46,7 @@ enum class Command {
     SharedProperties, // of two objects or more
     BringToFront,
     SendToBack,
+    ShowBindings,
     CheckPage,
     Preview,
     AddKind // one item per kind; runs at the pointer

@@ -82,9 +82,11 @@ void applySettings()
         current = sessionSteps().windowPlaces();
     current.ShowToolbar = pageMenuMarks().mockToolbar;
     current.ShowStatus = pageMenuMarks().statusPanel;
+    current.ShowBindings = pageMenuMarks().bindings;
     const WindowSettings stored = loadSettings(current);
     markMockToolbar(stored.ShowToolbar);
     markStatusPanel(stored.ShowStatus);
+    markBindings(stored.ShowBindings);
     tell(sessionSteps().placeWindows, stored);
 }
 
@@ -95,6 +97,7 @@ void storeSettings()
     WindowSettings settings = sessionSteps().windowPlaces();
     settings.ShowToolbar = pageMenuMarks().mockToolbar;
     settings.ShowStatus = pageMenuMarks().statusPanel;
+    settings.ShowBindings = pageMenuMarks().bindings;
     saveSettings(settings);
 }
 

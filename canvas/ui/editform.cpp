@@ -156,6 +156,8 @@ void Editform::showStatusPanel(bool shown)
     applyPageLayout();
 }
 
+void Editform::showBindings(bool shown) { visuals.showBindings(shown); }
+
 bool Editform::isNormal() const { return !isMinimized() && !isMaximized() && !isFullScreen(); }
 
 int Editform::frameHeight() const

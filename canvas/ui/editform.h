@@ -30,6 +30,7 @@ public:
     void applyPageLayout();
     void showMockToolbar(bool shown);
     void showStatusPanel(bool shown);
+    void showBindings(bool shown);
 
     PageArea &pageArea() const { return *area; }
     // Where the window with its frame has room on the screen when it takes a page's size; empty for all of it.

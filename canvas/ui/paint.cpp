@@ -20,6 +20,16 @@ std::optional<Kind> kindAt(const Page &p, std::int16_t index)
     return kindOf(p.objects[static_cast<std::size_t>(index)].kind);
 }
 
+// A text box with a file shows the file.
+QString fieldText(const Element &field, const ObjectRecord &o, const LiveState &live)
+{
+    if (live.emptied)
+        return {};
+    const bool bound = !o.ctlname.empty() && !o.datacol.empty();
+    const bool showsFile = kindOf(o.kind) == Kind::TextBox && !o.srcfile.empty();
+    return shownText(live.bindings && bound && !showsFile ? '<' + o.ctlname + '>' : field.Caption);
+}
+
 } // namespace
 
 QFont fontOf(const FontBlock &font)
@@ -68,14 +78,14 @@ void paintObject(QPainter &painter, const Page &p, std::int16_t index, const QRe
                      rect);
         break;
     case Kind::Label: paintLabel(painter, p.lbl.at(n), o.alignment, rect); break;
-    case Kind::TextBox: paintTextField(painter, p.tbx.at(n), o, live.emptied, rect); break;
+    case Kind::TextBox: paintTextField(painter, p.tbx.at(n), o, fieldText(p.tbx.at(n), o, live), rect); break;
     case Kind::Image: paintImage(painter, p.imgpictures.at(n).picture, rect); break;
     case Kind::Ticker: paintTicker(painter, p.tkr.at(n), live.textOffset, rect); break;
     case Kind::Animation: paintAnimation(painter, p, static_cast<std::int16_t>(n), live, rect); break;
     case Kind::Grid: paintGrid(painter, p.grd.at(n), p.gridcolumns, rect); break;
     case Kind::ImageDb: paintImageDb(painter, rect); break;
-    case Kind::ComboBox: paintComboBox(painter, p.cbx.at(n), o.alignment, rect); break;
-    case Kind::File: paintTextField(painter, p.fbx.at(n), o, live.emptied, rect); break;
+    case Kind::ComboBox: paintComboBox(painter, p.cbx.at(n), o, fieldText(p.cbx.at(n), o, live), rect); break;
+    case Kind::File: paintTextField(painter, p.fbx.at(n), o, fieldText(p.fbx.at(n), o, live), rect); break;
     case Kind::Url: paintLabel(painter, p.url.at(n), o.alignment, rect); break;
     }
     painter.restore();

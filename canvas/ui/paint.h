@@ -14,10 +14,11 @@ namespace corvanta {
 
 // What an object shows for a moment, besides its stored state.
 struct LiveState {
-    int textOffset = 0;   // of a ticker's text, pixels from its strip's left edge
-    int frame = 0;        // of an animation: number in the page's frame table; 0 for its first frame
-    bool bordered = true; // of an animation: false while it is played
-    bool emptied = false; // a list or text field that is being dragged
+    int textOffset = 0;    // of a ticker's text, pixels from its strip's left edge
+    int frame = 0;         // of an animation: number in the page's frame table; 0 for its first frame
+    bool bordered = true;  // of an animation: false while it is played
+    bool emptied = false;  // a list or text field that is being dragged
+    bool bindings = false; // a bound field shows its name
 };
 
 // Paints an object into a rectangle of its size. Images paint the picture that the page has loaded for them.

@@ -70,13 +70,11 @@ void paintListBox(QPainter &painter, const Element &list, const std::vector<List
     }
 }
 
-void paintTextField(QPainter &painter, const Element &field, const ObjectRecord &record, bool blank, const QRect &rect)
+void paintTextField(QPainter &painter, const Element &field, const ObjectRecord &record, const QString &text,
+                    const QRect &rect)
 {
     const QRect inner = paintField(painter, rect, field.BackColor);
-    if (blank)
-        return;
     setTextStyle(painter, field.font);
-    const QString text = shownText(field.Caption);
     if (!record.has(multiFlag))
         return paintLine(painter, inner, text, record.alignment);
     painter.setClipRect(inner, Qt::IntersectClip);
@@ -84,14 +82,15 @@ void paintTextField(QPainter &painter, const Element &field, const ObjectRecord 
                      alignmentFlag(record.alignment) | Qt::AlignTop | Qt::TextWordWrap, text);
 }
 
-void paintComboBox(QPainter &painter, const Element &field, std::int16_t alignment, const QRect &rect)
+void paintComboBox(QPainter &painter, const Element &field, const ObjectRecord &record, const QString &text,
+                   const QRect &rect)
 {
     QRect inner = paintField(painter, rect, field.BackColor);
     const int width = std::min(arrowWidth, inner.width() / 2);
     paintArrowButton(painter, QRect(inner.right() - width + 1, inner.top(), width, inner.height()));
     inner.setWidth(inner.width() - width);
     setTextStyle(painter, field.font);
-    paintLine(painter, inner, shownText(field.Caption), alignment);
+    paintLine(painter, inner, text, record.alignment);
 }
 
 } // namespace corvanta

@@ -21,8 +21,10 @@ void paintButton(QPainter &painter, const Element &button, std::int16_t alignmen
 void paintLabel(QPainter &painter, const Element &label, std::int16_t alignment, const QRect &rect);
 void paintListBox(QPainter &painter, const Element &list, const std::vector<ListBoxEntry> &entries,
                   std::int16_t alignment, const QRect &rect);
-void paintTextField(QPainter &painter, const Element &field, const ObjectRecord &record, bool blank, const QRect &rect);
-void paintComboBox(QPainter &painter, const Element &field, std::int16_t alignment, const QRect &rect);
+void paintTextField(QPainter &painter, const Element &field, const ObjectRecord &record, const QString &text,
+                    const QRect &rect);
+void paintComboBox(QPainter &painter, const Element &field, const ObjectRecord &record, const QString &text,
+                   const QRect &rect);
 void paintGrid(QPainter &painter, const Element &grid, const std::vector<GridColumn> &columns, const QRect &rect);
 void paintTicker(QPainter &painter, const Element &ticker, int textOffset, const QRect &rect);
 void paintAnimation(QPainter &painter, const Page &p, std::int16_t element, const LiveState &live, const QRect &rect);

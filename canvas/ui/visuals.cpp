@@ -55,6 +55,7 @@ Visual *Visuals::create(std::int16_t index)
     }
     auto *visual = new Visual(pageArea, control);
     visuals[keyOf(control)] = visual;
+    visual->setLive({.bindings = bindings});
     visual->stackUnder(&top);
     visual->show();
     return visual;
@@ -116,6 +117,16 @@ void Visuals::restack()
 {
     for (std::int16_t i = 0; i < objectCount(page()); ++i)
         raise(i);
+}
+
+void Visuals::showBindings(bool shown)
+{
+    bindings = shown;
+    for (const auto &[key, visual] : visuals) {
+        LiveState live = visual->live();
+        live.bindings = shown;
+        visual->setLive(live);
+    }
 }
 
 // An object without a visual of its own.

@@ -22,7 +22,8 @@ public:
     void refresh(std::int16_t index);
     void refreshAll();
     void raise(std::int16_t index);
-    void restack(); // in table order
+    void restack();                // in table order
+    void showBindings(bool shown); // those of later objects, too
 
     // Brings the visuals up to date with a page that undo has put in the place of another; what is alike on both is
     // left alone. Calls created for every object that has come back.
@@ -35,6 +36,7 @@ private:
     void updateDrawn(const Page &p, std::int16_t index);
 
     QWidget &pageArea, &top;
+    bool bindings = false;
     std::map<Key, Visual *> visuals;
 };
 

@@ -92,6 +92,8 @@ void CanvasMenu::addRow(const MenuRow &row)
     QAction *action = parent->addAction(text, this, [this, command = row.command] { run(command); });
     action->setObjectName(row.element);
     action->setEnabled(commandEnabled(row.command));
+    action->setCheckable(isMark(row.command));
+    action->setChecked(commandChecked(row.command));
     if (const auto keys = shortcutsOf(row.command); !keys.isEmpty()) {
         action->setShortcut(keys.front());
         action->setShortcutContext(Qt::WidgetShortcut); // shown here; the windows have the key

@@ -17,11 +17,6 @@ namespace corvanta {
 
 namespace {
 
-bool isMark(Command command)
-{
-    return command == Command::MockToolbar || command == Command::StatusPanel || command == Command::OdbcToolbar;
-}
-
 const QAction *highlighted(QObject *menu)
 {
     if (const auto *popup = qobject_cast<QMenu *>(menu))

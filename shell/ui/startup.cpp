@@ -114,6 +114,10 @@ void EditorWindows::connectCommands()
         if (editform)
             editform->showStatusPanel(shown);
     });
+    connections.add(commands.showBindings, [this](bool shown) {
+        if (editform)
+            editform->showBindings(shown);
+    });
 }
 
 // The selection that an act leaves, or that the author makes after it, belongs to the page as it is then.

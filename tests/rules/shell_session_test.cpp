@@ -80,15 +80,19 @@ TEST_F(ShellSession, CanvasIsLoadedOnceAndEverythingEndsInOrder)
     };
     places.MainTop = 1440;
     markStatusPanel(false);
+    runCommand(Command::ShowBindings);
     endSession();
     EXPECT_EQ(log, "Close all quit noodbc unload ");
     EXPECT_NE(hostBytes(drive.root() / "CORVANTA.INI").find("MainTop= 1440"), std::string::npos);
 
     markStatusPanel(true);
+    markBindings(false);
     places = {};
     startSession("");
     EXPECT_EQ(places.MainTop, 1440);
     EXPECT_FALSE(pageMenuMarks().statusPanel);
+    EXPECT_TRUE(commandChecked(Command::ShowBindings));
+    markBindings(false);
     EXPECT_TRUE(pageMenuMarks().mockToolbar);
 }
 

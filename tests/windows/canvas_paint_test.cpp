@@ -65,6 +65,23 @@ bool greenish(QRgb pixel) { return qGreen(pixel) - std::max(qRed(pixel), qBlue(p
 
 } // namespace
 
+TEST(CanvasPaint, BoundFieldsShowTheirNamesOnRequest)
+{
+    const QRect place(0, 0, 120, 24);
+    for (const Kind kind : {Kind::TextBox, Kind::ComboBox, Kind::File, Kind::Label}) {
+        Painted bound(kind), captioned(kind);
+        bound.record().ctlname = "city";
+        EXPECT_EQ(bound.image(place, {.bindings = true}), captioned.image(place));
+        bound.record().datacol = "customers.city";
+        EXPECT_EQ(bound.image(place), captioned.image(place));
+        if (kind != Kind::Label)
+            captioned.element().Caption = "<city>";
+        EXPECT_EQ(bound.image(place, {.bindings = true}), captioned.image(place));
+        EXPECT_TRUE(bound.image(place, {.emptied = true, .bindings = true}) ==
+                    captioned.image(place, {.emptied = true}));
+    }
+}
+
 TEST(CanvasPaint, EveryKindFillsItsRectangleAndNothingBesideIt)
 {
     const QRect place(20, 10, 120, 60);
