@@ -278,9 +278,17 @@ SqlResult changeRows(void *connection, const SqlStatement &statement, std::optio
                      const SqlLimits &limits)
 {
     SqlResult result = run(connection, statement, limits);
-    if (result.error.empty() && mostRows && result.changed > *mostRows) {
-        result.error = "The statement would change " + std::to_string(result.changed) + " rows; nothing was changed.";
-        result.changed = 0;
+    if (result.error.empty() && mostRows) {
+        if (result.changed > *mostRows)
+            result.error = "The statement would change " + std::to_string(result.changed) + " rows";
+        else if (result.changed < 0)
+            result.error = "The driver does not tell how many rows the statement changes";
+        else if (result.changed == 0)
+            result.error = "There is no such row any more";
+        if (!result.error.empty()) {
+            result.error += "; nothing was changed.";
+            result.changed = 0;
+        }
     }
     const bool keep = result.error.empty();
     if (!SQL_SUCCEEDED(SQLEndTran(SQL_HANDLE_DBC, connection, keep ? SQL_COMMIT : SQL_ROLLBACK)) && keep)

@@ -64,7 +64,8 @@ void beginUse(void *connection, SqlUse use);
 // Runs a statement and gives its rows; changes are undone.
 SqlResult readRows(void *connection, const SqlStatement &statement, const SqlLimits &limits = {});
 
-// Runs a statement that changes rows. Where it changes more rows than allowed, all is undone and the error says so.
+// Runs a statement that changes rows. With a limit it is to change at least one row and at most so many: else, and
+// where the driver does not tell how many, all is undone and the error says so.
 SqlResult changeRows(void *connection, const SqlStatement &statement, std::optional<long> mostRows,
                      const SqlLimits &limits = {});
 

@@ -280,11 +280,9 @@ private:
             fail("The page names no table.");
             return std::nullopt;
         }
-        SqlResult described = parts.sources.read(sourceOf(p), describingStatement(p));
-        if (described.error.empty())
-            return std::move(described.columns);
-        fail(described.error);
-        return std::nullopt;
+        SqlResult described = readNoted(parts, sourceOf(p), describingStatement(p), true);
+        stopped = !described.error.empty();
+        return stopped ? std::nullopt : std::optional(std::move(described.columns));
     }
 
     // The row that the page shows; none when there is none, which has been told.
@@ -329,9 +327,10 @@ private:
     {
         if (!used.result)
             return;
-        SqlResult data = parts.sources.read(used.result->source, used.result->statement);
-        if (!data.error.empty())
-            return fail(data.error);
+        SqlResult data = readNoted(parts, used.result->source, used.result->statement, true);
+        stopped = !data.error.empty();
+        if (stopped)
+            return;
         const long last = std::max<long>(static_cast<long>(data.rows.size()) - 1, 0);
         parts.results.refresh(used.result->number, std::move(data));
         const bool hits = valueOf(used.request.query, "row").empty();

@@ -23,29 +23,37 @@ SqlResult failed(std::string error)
 
 PageSource sourceOf(const Page &p) { return {connectPart(p, 0), {connectPart(p, 1), connectPart(p, 2)}}; }
 
-DataSources::Connected &DataSources::entryFor(const PageSource &source)
+std::shared_ptr<DataSources::Connected> DataSources::entryFor(const PageSource &source)
 {
+    const std::lock_guard lock(mutex);
+    if (!environment)
+        environment = openOdbc();
     const auto found =
-        std::find_if(connections.begin(), connections.end(), [&](const Connected &c) { return c.source == source; });
+        std::find_if(connections.begin(), connections.end(), [&](const auto &c) { return c->source == source; });
     if (found != connections.end())
         return *found;
     if (connections.size() >= mostSources)
         connections.pop_front();
-    connections.push_back({source, source.credentials});
+    connections.push_back(std::make_shared<Connected>());
+    connections.back()->source = source;
+    connections.back()->used = source.credentials;
     return connections.back();
 }
 
-// A page that stores no user may do without one, else the user is asked.
+// A page that stores no user may do without one. Else, and where the source refuses what is stored, the user is asked.
 OdbcHandle DataSources::connect(Connected &entry, SqlUse use)
 {
-    if (!environment)
-        environment = openOdbc();
-    OdbcHandle handle = connectOdbc(environment.get(), entry.source.source, entry.used.user, entry.used.password);
-    if (!handle && entry.source.credentials.user.empty() && ask && !entry.declined) {
-        const std::optional<Credentials> given = ask(entry.source.source);
+    const std::string &source = entry.source.source;
+    std::string reason;
+    OdbcHandle handle = connectOdbc(environment.get(), source, entry.used.user, entry.used.password, &reason);
+    const bool refused = entry.used.user.empty() || ("\n" + reason).find("\n28") != std::string::npos ||
+                         reason.find("assword") != std::string::npos; // some drivers say 08001 of a wrong one
+    if (!handle && refused && ask && !entry.declined) {
+        const std::lock_guard lock(asking);
+        const std::optional<Credentials> given = ask(source);
         entry.declined = !given;
         if (given) {
-            handle = connectOdbc(environment.get(), entry.source.source, given->user, given->password);
+            handle = connectOdbc(environment.get(), source, given->user, given->password);
             entry.used = handle ? *given : entry.used;
         }
     }
@@ -54,18 +62,19 @@ OdbcHandle DataSources::connect(Connected &entry, SqlUse use)
     return handle;
 }
 
-SqlResult DataSources::run(const PageSource &source, SqlUse use, const std::function<SqlResult(void *)> &work)
+SqlResult DataSources::run(const PageSource &source, SqlUse use, const SqlStatement &statement,
+                           const std::function<SqlResult(void *)> &work)
 {
-    const std::lock_guard lock(mutex);
     if (source.source.empty())
         return failed("The page names no data source.");
-    Connected &entry = entryFor(source);
-    OdbcHandle &handle = use == SqlUse::Reading ? entry.reading : entry.writing;
+    const std::shared_ptr<Connected> entry = entryFor(source);
+    const std::lock_guard lock(entry->busy);
+    OdbcHandle &handle = use == SqlUse::Reading ? entry->reading : entry->writing;
     SqlResult result;
     for (int tries = 0; tries < 2; ++tries) {
         const bool fresh = !handle;
         if (fresh)
-            handle = connect(entry, use);
+            handle = connect(*entry, use);
         if (!handle)
             return failed("No connection to the data source \"" + toUtf8(source.source) +
                           "\". The reason stands on the terminal of the preview.");
@@ -76,18 +85,21 @@ SqlResult DataSources::run(const PageSource &source, SqlUse use, const std::func
         if (fresh || use == SqlUse::Writing) // a change may have been made before the connection went
             break;
     }
-    result.error = withoutPassword(result.error, toUtf8(entry.used.password));
+    result.error = withoutPassword(result.error, toUtf8(entry->used.password));
+    for (const SqlParameter &parameter : statement.parameters) // drivers repeat the values that they refuse
+        if (parameter.secret)
+            result.error = withoutPassword(result.error, parameter.value.value_or(""));
     return result;
 }
 
 SqlResult DataSources::read(const PageSource &source, const SqlStatement &statement, const SqlLimits &limits)
 {
-    return run(source, SqlUse::Reading, [&](void *c) { return readRows(c, statement, limits); });
+    return run(source, SqlUse::Reading, statement, [&](void *c) { return readRows(c, statement, limits); });
 }
 
 SqlResult DataSources::change(const PageSource &source, const SqlStatement &statement, std::optional<long> mostRows)
 {
-    return run(source, SqlUse::Writing, [&](void *c) { return changeRows(c, statement, mostRows); });
+    return run(source, SqlUse::Writing, statement, [&](void *c) { return changeRows(c, statement, mostRows); });
 }
 
 } // namespace corvanta

@@ -5,12 +5,13 @@
 
 #include <functional>
 #include <list>
+#include <memory>
 #include <mutex>
 #include <optional>
 #include <string>
 
 // The connections of a preview, one to read and one to write for each data source that a page names. May be called
-// from many threads; statements run one after another.
+// from many threads; the statements of one source run one after another.
 namespace corvanta {
 
 struct Credentials {
@@ -43,20 +44,23 @@ public:
 
 private:
     struct Connected {
+        std::mutex busy; // a source that is slow holds nobody else up
         PageSource source;
         Credentials used;
         bool declined = false; // nobody answered the question for credentials
         OdbcHandle reading{nullptr, nullptr}, writing{nullptr, nullptr};
     };
 
-    SqlResult run(const PageSource &source, SqlUse use, const std::function<SqlResult(void *)> &work);
-    Connected &entryFor(const PageSource &source);
+    SqlResult run(const PageSource &source, SqlUse use, const SqlStatement &statement,
+                  const std::function<SqlResult(void *)> &work);
+    std::shared_ptr<Connected> entryFor(const PageSource &source);
     OdbcHandle connect(Connected &entry, SqlUse use);
 
     AskCredentials ask;
-    std::mutex mutex;
-    OdbcHandle environment{nullptr, nullptr};
-    std::list<Connected> connections;
+    std::mutex asking;                        // one question at a time
+    std::mutex mutex;                         // of what follows
+    OdbcHandle environment{nullptr, nullptr}; // outlives the connections
+    std::list<std::shared_ptr<Connected>> connections;
 };
 
 } // namespace corvanta

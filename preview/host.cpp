@@ -81,7 +81,7 @@ PreviewAnswer PreviewHost::answerPage(const std::string &name, const PreviewRequ
         address = single ? rowLocation(name, result->number, numberOf(request, "row", 0))
                          : rowsLocation(name, result->number, numberOf(request, "from", 0));
     parts.trail.visit(address);
-    return {200, html, shownPage(parts, loaded, request), {}};
+    return {200, html, shownPage(parts, loaded, request), {}, pictureHosts(parts, loaded, request)};
 }
 
 } // namespace corvanta

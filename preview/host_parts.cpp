@@ -50,17 +50,27 @@ std::vector<std::string> shownParameters(const SqlStatement &statement)
     return shown;
 }
 
+SqlResult readNoted(HostParts &parts, const PageSource &source, const SqlStatement &statement, bool aside)
+{
+    SqlResult result = parts.sources.read(source, statement);
+    JournalEntry entry;
+    entry.kind = JournalEntry::Kind::Statement;
+    entry.aside = aside;
+    entry.text = statement.text;
+    entry.parameters = shownParameters(statement);
+    entry.milliseconds = result.milliseconds;
+    entry.error = result.error;
+    if (result.error.empty())
+        entry.rows = static_cast<long>(result.rows.size());
+    parts.journal.add(std::move(entry));
+    return result;
+}
+
 ResultPtr runQuery(HostParts &parts, ResultSet query, const SqlStatement &statement)
 {
-    query.data = parts.sources.read(query.source, statement);
+    query.data = readNoted(parts, query.source, statement);
     query.statement = statement;
-    JournalEntry entry{
-        JournalEntry::Kind::Statement, {}, statement.text, {}, {}, query.data.milliseconds, query.data.error};
-    const bool failed = !query.data.error.empty();
-    if (!failed)
-        entry.rows = static_cast<long>(query.data.rows.size());
-    parts.journal.add(std::move(entry));
-    return failed ? nullptr : parts.results.add(std::move(query));
+    return query.data.error.empty() ? parts.results.add(std::move(query)) : nullptr;
 }
 
 } // namespace corvanta

@@ -44,6 +44,9 @@ std::string rowsLocation(const std::string &page, unsigned result, long from);
 // Parameters for people to read, without what was typed into password fields.
 std::vector<std::string> shownParameters(const SqlStatement &statement);
 
+// Runs a SELECT and enters it in the journal; aside when the page asked for something else.
+SqlResult readNoted(HostParts &parts, const PageSource &source, const SqlStatement &statement, bool aside = false);
+
 // Runs a SELECT of a page and enters it in the journal. The result is none after a failure.
 ResultPtr runQuery(HostParts &parts, ResultSet query, const SqlStatement &statement);
 

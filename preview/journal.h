@@ -18,8 +18,9 @@ struct JournalEntry {
         Failure
     };
     Kind kind = Kind::Note;
-    std::string title; // of a message
-    std::string text;  // statement, note or message
+    bool aside = false; // the preview's own statement, for one of the page's
+    std::string title;  // of a message
+    std::string text;   // statement, note or message
     std::vector<std::string> parameters;
     std::optional<long> rows;
     double milliseconds = -1; // of a statement that ran

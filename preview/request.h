@@ -30,7 +30,8 @@ struct PreviewAnswer {
     int status = 200;
     std::string type = "text/html; charset=utf-8";
     std::string body;
-    std::string location; // of a redirection: path below the token, with its query
+    std::string location;                       // of a redirection: path below the token, with its query
+    std::vector<std::string> pictureHosts = {}; // "https://host" that the page's Image DB objects name
 };
 
 // The first value of a name; empty without one.

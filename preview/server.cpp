@@ -27,10 +27,17 @@ const httplib::Headers securityHeaders = {
     {"Referrer-Policy", "same-origin"},
     {"Cross-Origin-Resource-Policy", "same-origin"},
     {"Cross-Origin-Opener-Policy", "same-origin"},
-    {"Content-Security-Policy", "default-src 'none'; script-src 'self'; style-src 'self' 'unsafe-inline'; "
-                                "img-src 'self' data: http: https:; media-src 'self'; connect-src 'self'; "
-                                "form-action 'self'; base-uri 'none'; frame-ancestors 'none'"},
 };
+
+// Markup of the page's own can load nothing from elsewhere, and so carry nothing away.
+std::string contentPolicy(const std::vector<std::string> &pictureHosts)
+{
+    std::string pictures = "img-src 'self' data:";
+    for (const std::string &host : pictureHosts)
+        pictures += " " + host;
+    return "default-src 'none'; script-src 'self'; style-src 'self' 'unsafe-inline'; " + pictures +
+           "; media-src 'self'; connect-src 'self'; form-action 'self'; base-uri 'none'; frame-ancestors 'none'";
+}
 
 class LimitedServer : public httplib::Server {
     bool process_and_close_socket(socket_t connection) override
@@ -55,6 +62,7 @@ bool sameSecret(std::string_view a, std::string_view b)
 void refuse(httplib::Response &response, int status, const char *why)
 {
     response.status = status;
+    response.set_header("Content-Security-Policy", contentPolicy({}));
     response.set_content(why, "text/plain; charset=utf-8");
 }
 
@@ -137,6 +145,7 @@ struct PreviewServer::State {
             response.status = answer.status;
         if (!answer.location.empty())
             response.set_header("Location", "/" + token + "/" + answer.location);
+        response.set_header("Content-Security-Policy", contentPolicy(answer.pictureHosts));
         response.set_content(answer.body, answer.type);
     }
 

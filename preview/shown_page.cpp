@@ -131,6 +131,20 @@ void addState(Strip &strip, const LoadedPage &loaded, const Shown &shown)
         strip.links.push_back({"Next", at(shown.first + step)});
 }
 
+// "https://host:1" of an address; empty for other texts.
+std::string hostOf(const std::string &address)
+{
+    const std::string text = trimmed(address);
+    const std::size_t scheme = text.find("://");
+    if (scheme == std::string::npos ||
+        !(sameText(text.substr(0, scheme), "http") || sameText(text.substr(0, scheme), "https")))
+        return {};
+    const std::string host = text.substr(0, text.find_first_of("/?#", scheme + 3));
+    const bool plain = host.find_first_not_of("abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789.-:/") ==
+                       std::string::npos;
+    return plain ? host : std::string();
+}
+
 } // namespace
 
 std::string ownRecords(HostParts &parts, const LoadedPage &loaded, const PreviewRequest &request)
@@ -172,6 +186,23 @@ Strip stripOf(const HostParts &parts, const std::string &page, const PreviewRequ
     std::from_chars(said.data(), said.data() + dash, strip.saidFrom);
     std::from_chars(said.data() + std::min(dash + 1, said.size()), said.data() + said.size(), strip.saidTo);
     return strip;
+}
+
+std::vector<std::string> pictureHosts(const HostParts &parts, const LoadedPage &loaded, const PreviewRequest &request)
+{
+    const Page &p = loaded.page;
+    const std::vector<TemplateValue> values = valuesOn(p, shownOf(parts, request));
+    std::vector<std::string> hosts;
+    for (const ObjectRecord &o : p.objects) {
+        if (kindOf(o.kind) != Kind::ImageDb)
+            continue;
+        hosts.push_back(hostOf(toUtf8(o.srcfile)));
+        for (const TemplateValue &v : values)
+            if (v.name == toUtf8(o.ctlname))
+                hosts.push_back(hostOf(v.value));
+    }
+    std::erase(hosts, std::string());
+    return hosts;
 }
 
 std::string shownPage(const HostParts &parts, const LoadedPage &loaded, const PreviewRequest &request)

@@ -158,6 +158,8 @@ private:
         return sameText(word, "d") || sameText(word, "t") || sameText(word, "ts") ? brace : std::string::npos;
     }
 
+    std::size_t behindEscape() const { return std::min(text.find('}', at), text.size() - 1) + 1; }
+
     void literal(std::string_view whole)
     {
         std::int16_t object = noObject;
@@ -169,6 +171,11 @@ private:
         const std::size_t brace = escapeStart();
         if (brace == std::string::npos)
             return bindText(std::move(value), secret);
+        if (isDateText(value) && secret) { // a bound value is not shown
+            out.erase(brace);
+            at = behindEscape();
+            return bindText(std::move(value), true);
+        }
         if (isDateText(value)) {
             // Some drivers know the escape only with a blank.
             out += (out.ends_with(' ') ? "'" : " '") + value + '\'';
@@ -178,7 +185,7 @@ private:
             return fail(object, "is no date or time (2001-12-31, 23:59:59).");
         out.erase(brace);
         out += "NULL";
-        at = std::min(text.find('}', at), text.size() - 1) + 1;
+        at = behindEscape();
     }
 
     void name(std::string_view whole)
@@ -213,6 +220,8 @@ private:
         case ValueClass::Date:
             if (!value.empty() && !isDateText(value))
                 return fail(found.object, "is no date (2001-12-31).");
+            if (!value.empty() && isPasswordField(p, found.object))
+                return bindText(value, true);
             out += value.empty() ? "NULL" : "{d '" + value + "'}";
             return;
         }

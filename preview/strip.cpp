@@ -2,6 +2,7 @@
 
 #include "converter/text.h"
 
+#include <algorithm>
 #include <cstdio>
 
 namespace corvanta {
@@ -131,8 +132,10 @@ std::string summary(const Strip &strip)
     std::string text = "Preview of " + escapedUtf8(strip.page);
     if (!strip.state.empty())
         text += " · " + escapedUtf8(strip.state);
-    if (!strip.entries.empty()) {
-        const JournalEntry &e = strip.entries.front();
+    const auto latest = std::find_if(strip.entries.begin(), strip.entries.end(),
+                                     [](const JournalEntry &e) { return !e.aside || !e.error.empty(); });
+    if (latest != strip.entries.end()) {
+        const JournalEntry &e = *latest;
         const std::string line = shortened(lead(e.kind) + messageText(e)), how = outcome(e);
         text += " · " + escapedUtf8(line) + (how.empty() ? "" : " · " + how);
         if (!e.error.empty())

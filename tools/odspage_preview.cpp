@@ -1,8 +1,10 @@
 #include "platform/codepage.h"
 #include "platform/text.h"
+#include "preview/address_file.h"
 #include "preview/host.h"
 #include "preview/server.h"
 #include "tools/odspage_commands.h"
+#include "tools/odspage_terminal.h"
 
 #include <atomic>
 #include <csignal>
@@ -13,7 +15,6 @@
 #include <poll.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
-#include <termios.h>
 #include <thread>
 #include <unistd.h>
 
@@ -23,13 +24,12 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::size_t longestAnswer = 255;
 constexpr int endingTime = 2000; // milliseconds that open requests get to end
 
 struct PreviewArguments {
     std::string target, overlay;
     int port = 0;
-    bool write = false, open = false;
+    bool write = false, open = false, addressFile = false;
 };
 
 // Written to by the signal handler.
@@ -84,53 +84,17 @@ std::string findPages(const PreviewArguments &arguments, PageFolder &pages)
     return loadPage(pages, pages.start).missing ? "no such page file" : "";
 }
 
-// Opens an address in the user's browser.
-void openBrowser(const std::string &address)
+// Opens a file in the user's browser.
+void openBrowser(const fs::path &file)
 {
     const pid_t child = fork();
     if (child == 0) {
         if (fork() == 0)
-            execlp("xdg-open", "xdg-open", address.c_str(), static_cast<char *>(nullptr));
+            execlp("xdg-open", "xdg-open", file.c_str(), static_cast<char *>(nullptr));
         _exit(0);
     }
     if (child > 0)
         waitpid(child, nullptr, 0);
-}
-
-// One line from the terminal, without echo when it is a secret.
-std::string terminalLine(int terminal, const std::string &prompt, bool secret)
-{
-    termios before = {};
-    tcgetattr(terminal, &before);
-    termios silent = before;
-    silent.c_lflag &= ~static_cast<tcflag_t>(ECHO);
-    [[maybe_unused]] ssize_t done = write(terminal, prompt.data(), prompt.size());
-    if (secret)
-        tcsetattr(terminal, TCSAFLUSH, &silent);
-    std::string line;
-    for (char c = 0; read(terminal, &c, 1) == 1 && c != '\n' && line.size() < longestAnswer;)
-        line += c;
-    if (secret) {
-        tcsetattr(terminal, TCSAFLUSH, &before);
-        done = write(terminal, "\n", 1);
-    }
-    return line;
-}
-
-// The credentials of a data source from the user at the terminal; none without a terminal and for an empty user.
-std::optional<Credentials> askOnTerminal(const std::string &source)
-{
-    if (isatty(STDIN_FILENO) == 0)
-        return std::nullopt;
-    const int terminal = open("/dev/tty", O_RDWR | O_CLOEXEC);
-    if (terminal < 0)
-        return std::nullopt;
-    Credentials given;
-    given.user = fromUtf8Lossy(terminalLine(terminal, "User name for " + toUtf8(source) + ": ", false));
-    if (!given.user.empty())
-        given.password = fromUtf8Lossy(terminalLine(terminal, "Password: ", true));
-    close(terminal);
-    return given.user.empty() ? std::nullopt : std::optional(given);
 }
 
 struct Running {
@@ -138,12 +102,24 @@ struct Running {
     const PageFolder &pages;
     PreviewServer &server;
     std::string base; // address with the token and "/"
-    std::string input;
+    bool throughFile = false;
+    AddressFile addressFile = {};
+    std::string input = {};
 
-    void tell(const std::string &page) const { run.out << base << pageLocation(page) << std::endl; }
+    void tell(const std::string &page)
+    {
+        const std::string address = base + pageLocation(page);
+        const fs::path file = throughFile ? addressFile.leadTo(address) : fs::path();
+        run.out << (file.empty() ? address : file.string()) << std::endl;
+    }
+    void openPage(const std::string &page)
+    {
+        if (const fs::path &file = addressFile.leadTo(base + pageLocation(page)); !file.empty())
+            openBrowser(file);
+    }
 
     // "show NAME" sends the open browser windows to the page, or tells its address for a new one.
-    void command(const std::string &line) const
+    void command(const std::string &line)
     {
         if (!line.starts_with("show "))
             return;
@@ -183,10 +159,10 @@ void serveUntilEnd(ToolRun &run, const PageFolder &pages, PreviewServer &server,
                    const std::string &base)
 {
     std::thread serving([&] { server.serve(); });
-    Running running{run, pages, server, base, {}};
+    Running running{run, pages, server, base, arguments.addressFile};
     running.tell(pages.start);
     if (arguments.open)
-        openBrowser(base + pageLocation(pages.start));
+        running.openPage(pages.start);
     running.waitForEnd();
     server.stop();
     std::atomic<bool> ended = false;
@@ -209,7 +185,8 @@ int preview(ToolRun &run, const PreviewArguments &arguments)
         return 1;
     }
     watchSignals();
-    PreviewHost host(pages, {arguments.write, askOnTerminal});
+    PreviewHost host(pages,
+                     {arguments.write, [](const std::string &source) { return askOnTerminal(source, endPipe[0]); }});
     const std::string token = randomToken();
     PreviewServer server(token, {[&](const PreviewRequest &request) { return host.answer(request); },
                                  [&](const std::string &page) { return host.stamp(page); }});
@@ -233,6 +210,8 @@ void addPreviewCommand(CLI::App &app, ToolRun &run)
         ->check(CLI::Range(0, 65535));
     command->add_flag("--write", arguments->write, "carry out statements that change the database");
     command->add_flag("--open", arguments->open, "open the page in the browser");
+    command->add_flag("--address-file", arguments->addressFile,
+                      "print the path of a page of the user's own that leads to the preview, not the address");
     command->add_option("--overlay", arguments->overlay, "directory whose pages stand in the place of those in DIR");
     command->callback([&run, arguments] {
         if (!run.codePageGiven)

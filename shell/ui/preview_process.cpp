@@ -120,8 +120,8 @@ private:
         });
         const std::filesystem::path target = hostPath(directory) / (toUtf8(shown) + ".ods");
         process->start(QCoreApplication::applicationDirPath() + "/odspage",
-                       {"--codepage", QString::number(codePageNumber()), "preview", "--overlay", overlay->path(), "--",
-                        QString::fromStdString(target.string())});
+                       {"--codepage", QString::number(codePageNumber()), "preview", "--address-file", "--overlay",
+                        overlay->path(), "--", QString::fromStdString(target.string())});
     }
 
     void readAnswers()
@@ -129,9 +129,13 @@ private:
         while (process->canReadLine()) {
             const QString line = QString::fromUtf8(process->readLine()).trimmed();
             opened = true;
-            if (line.startsWith("http://") && !QDesktopServices::openUrl(QUrl(line)))
-                showMessage(
-                    {"Open this address in a browser:\r" + toBytes(line), title, Icon::Information, Buttons::Ok});
+            const bool file = line.startsWith('/');
+            if (!file && !line.startsWith("http://"))
+                continue;
+            const QUrl address = file ? QUrl::fromLocalFile(line) : QUrl(line);
+            if (!QDesktopServices::openUrl(address))
+                showMessage({"Open this address in a browser:\r" + toBytes(address.toString()), title,
+                             Icon::Information, Buttons::Ok});
         }
     }
 

@@ -67,15 +67,18 @@ TEST_F(PreviewFill, ValuesAreBoundOrNothingButNumbersDatesAndComparisons)
         {"B = {ts '@d@'}", "1997-01-06 07:30:00", "B = {ts '1997-01-06 07:30:00'}"},
         {"B = {d'@d@'}", "1997'}) --", "! d: \"1997'}) --\" is no date or time (2001-12-31, 23:59:59)."},
         {"B = @d@", "1997-01-06", "B = {d '1997-01-06'}"},
+        {"B = @s@ Or C = {d'@s@'}", "1997-01-06", "B = ? Or C = ?|1997-01-06|1997-01-06"}, // a password field
         {"City @op@ 'x'", " not like ", "City Not Like 'x'"},
         {"City @op@ 'x'", "", "City = 'x'"},
         {"City @op@ 'x'", "= 1 Or", "! op: \"= 1 Or\" is no comparison (=, <>, <, >, <=, >=, Like, Not Like)."},
     };
-    for (const char *name : {"t", "n", "d", "op"})
-        field(name, "c", std::map<std::string, std::int16_t>{{"t", 0}, {"n", 6}, {"d", 3}, {"op", 0}}[name], {});
+    for (const char *name : {"t", "n", "d", "op", "s"})
+        field(name, "c", std::map<std::string, std::int16_t>{{"t", 0}, {"n", 6}, {"d", 3}, {"op", 0}, {"s", 3}}[name],
+              {});
+    p.tbxextras.back().sysobj = 1;
     recordAt(p, 0).condobjname = "op";
     for (const Case &c : cases) {
-        values.assign(4, c.value);
+        values.assign(5, c.value);
         const std::string result = told(fillStatement(p, c.statement, values));
         if (c.expected == noNumber)
             EXPECT_TRUE(result.starts_with("! ") && result.ends_with(noNumber)) << result;

@@ -1,6 +1,7 @@
 #include "actions/action.h"
 #include "document/page_file.h"
 #include "platform/codepage.h"
+#include "preview/address_file.h"
 #include "preview/host.h"
 #include "tests/rules/converter_page.h"
 #include "tests/support/database_sources.h"
@@ -163,6 +164,31 @@ TEST_F(PreviewHostTest, ServesPagesAndMediaOfTheDirectoryAlone)
         EXPECT_EQ(send(address).status, status) << address;
 }
 
+TEST_F(PreviewHostTest, TheAddressStandsInAFileOfTheUsersOwn)
+{
+    setenv("XDG_RUNTIME_DIR", drive.root().c_str(), 1);
+    std::filesystem::path file;
+    {
+        AddressFile leading;
+        for (const char *address : {"http://127.0.0.1:1/token/LONGER.hts", "http://127.0.0.1:1/token/A.hts?a&b"})
+            file = leading.leadTo(address);
+        EXPECT_TRUE(holds(hostBytes(file), "url=http://127.0.0.1:1/token/A.hts?a&amp;b\""));
+        EXPECT_FALSE(holds(hostBytes(file), "LONGER"));
+        EXPECT_EQ(std::filesystem::status(file).permissions(), std::filesystem::perms(0600));
+    }
+    EXPECT_FALSE(std::filesystem::exists(file));
+}
+
+TEST_F(PreviewHostTest, PicturesComeFromTheHostsThatThePageNamesAlone)
+{
+    Page p;
+    addCaptioned(p, Kind::Label, "<img src=\"http://elsewhere/@name@\">");
+    for (const char *path : {"https://pictures.example:8443/a", "photos", "http://x; script-src *", "javascript://y"})
+        recordAt(p, addTo(p, Kind::ImageDb)).srcfile = path;
+    drive.add("PAGES/PICTURES.ODS", serialisePage(p));
+    EXPECT_EQ(send("PICTURES.hts").pictureHosts, std::vector<std::string>{"https://pictures.example:8443"});
+}
+
 TEST_F(PreviewHostTest, AListOfActionsIsCarriedOutInItsOrder)
 {
     addPages();
@@ -255,8 +281,11 @@ TEST_P(DatabasePreview, RecordsComeAndGo)
     EXPECT_TRUE(holds(at(lastSaid), "class=\"error\"")) << at(lastSaid);
     press(last, 9, {{"number", "99 Or 1=1"}, {"name", "x"}});
     EXPECT_TRUE(holds(at(lastSaid), "is no number"));
+    const std::string other = send("CUSTOMER.hts").location; // another window's look at the records
     press(last, 5);
     EXPECT_TRUE(holds(at("CUSTOMER.hts?result=1&row=13"), "row 14 of 14"));
+    press(other.substr(0, other.find("row=")) + "row=14", 5);
+    EXPECT_TRUE(holds(at(lastSaid), "There is no such row any more; nothing was changed.")) << at(lastSaid);
 }
 
 TEST_P(DatabasePreview, ReadingOnlyShowsWhatWouldRun)

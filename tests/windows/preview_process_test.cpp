@@ -38,7 +38,13 @@ protected:
         page().pgcaption = caption;
     }
 
-    QUrl address() const { return told.isEmpty() ? QUrl() : QUrl(told.back().section('\r', 1)); }
+    // Where the file leads that the author is told.
+    QUrl address() const
+    {
+        const QUrl file(told.back().section('\r', 1));
+        const QString page = QString::fromStdString(hostBytes(file.toLocalFile().toStdString()));
+        return QUrl(page.section("url=", 1).section('"', 0, 0));
+    }
 
     static bool shows(const QUrl &url, const std::string &text)
     {
