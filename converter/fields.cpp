@@ -79,12 +79,10 @@ InputType inputType(const TextBoxExtras &x)
     }
 }
 
-// Pages that show a record have the placeholder of its value.
-std::string placeholder(const Template &t, const ObjectRecord &o)
+// A bound field has the placeholder of its value, whatever the page's type.
+std::string placeholder(const ObjectRecord &o)
 {
-    const auto type = static_cast<PageKind>(t.page.PageType);
-    const bool showsRecord = type == PageKind::Record || type == PageKind::QueryView;
-    return showsRecord && !isBlank(o.datacol) && !isBlank(o.ctlname) ? "@" + o.ctlname + "@" : std::string();
+    return isBlank(o.datacol) || isBlank(o.ctlname) ? std::string() : "@" + o.ctlname + "@";
 }
 
 // The text of the field's file in the page directory; what cannot be read is empty.
@@ -107,7 +105,7 @@ std::string textBoxValue(const Template &t, std::int16_t index)
     const ObjectRecord &o = recordOf(t, index);
     if (t.page.tbxextras[elementNumber(t, index)].sysobj == password)
         return {};
-    const std::string value = placeholder(t, o);
+    const std::string value = placeholder(o);
     return value.empty() && !isBlank(o.srcfile) ? fileText(t, index) : value;
 }
 
@@ -190,7 +188,7 @@ void writeComboBox(Template &t, std::int16_t index)
             options += element("option", attribute("value", entry), "");
     place(t, index, fieldDeclarations(o, t.page.cbx[elementNumber(t, index)]));
     t.objects += "<input type=\"text\"" + fieldAttributes(t, index, {}, "field combo") +
-                 optionalAttribute("value", placeholder(t, o));
+                 optionalAttribute("value", placeholder(o));
     t.objects += options.empty()
                      ? ">\n"
                      : attribute("list", list) + ">" + element("datalist", attribute("id", list), options) + "\n";

@@ -251,6 +251,18 @@ SqlClass sqlClass(const SqlColumn &column)
     }
 }
 
+SqlColumn columnOfClass(SqlClass kind)
+{
+    switch (kind) {
+    case SqlClass::Text:
+    case SqlClass::Number: return {}; // databases read a number from a text
+    case SqlClass::Date: return {{}, SQL_TYPE_DATE, 10, 0};
+    case SqlClass::Time: return {{}, SQL_TYPE_TIME, 8, 0};
+    case SqlClass::DateAndTime: return {{}, SQL_TYPE_TIMESTAMP, 19, 0};
+    }
+    return {};
+}
+
 void beginUse(void *connection, SqlUse use)
 {
     // Each in words of its own, and not every database knows how to read only; what it does all the same is undone

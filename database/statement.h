@@ -28,6 +28,9 @@ struct SqlColumn {
 enum class SqlClass { Text, Number, Date, Time, DateAndTime };
 SqlClass sqlClass(const SqlColumn &column);
 
+// What a value of a class is bound as where no column is known.
+SqlColumn columnOfClass(SqlClass kind);
+
 struct SqlParameter {
     SqlField value;
     SqlColumn column;    // what it is compared with or stored in

@@ -4,6 +4,9 @@
 #include "document/page_file.h"
 #include "platform/asking.h"
 #include "platform/codepage.h"
+#include "platform/paths.h"
+
+#include <algorithm>
 
 namespace corvanta {
 
@@ -32,8 +35,9 @@ void ConvertToHtml()
         return;
     const std::string &path = editing().filetag;
     if (ConvertOdsHtsCodePage(path.c_str(), codePageNumber()) == 0)
-        return tell("Error converting " + path, fromUtf8Lossy(ConvertOdsHtsMessage()));
-    const std::string templatePath = path.substr(0, path.size() < 3 ? 0 : path.size() - 3) + "hts";
+        return tell("Error converting " + fromUtf8Lossy(realPath(path)), fromUtf8Lossy(ConvertOdsHtsMessage()));
+    std::string templatePath = fromUtf8Lossy(realPath(path));
+    templatePath.replace(templatePath.size() - std::min<std::size_t>(templatePath.size(), 3), 3, "hts");
     tell("The file " + templatePath + " has been saved\ras an HTML template.\rYou may edit it using any HTML Editor");
 }
 

@@ -22,7 +22,7 @@ PreviewAnswer redirection(const std::string &location) { return {303, "text/plai
 } // namespace
 
 PreviewHost::PreviewHost(PageFolder folder, PreviewOptions options)
-    : parts{std::move(folder), DataSources(std::move(options.ask)), options.write, {}, {}, {}}
+    : parts{std::move(folder), DataSources(std::move(options.ask)), options.write, {}, {}, {}, {}}
 {
     BuildActionKinds(); // before the threads start
 }
@@ -52,7 +52,10 @@ PreviewAnswer PreviewHost::answer(const PreviewRequest &request)
     }
     if (const std::optional<std::string> name = pageOfAddress(parts.pages, request.path))
         return answerPage(*name, request);
-    if (std::optional<MediaFile> media = mediaFile(parts.pages, request.path); media && !request.post)
+    const std::size_t slash = request.path.rfind('/');
+    const bool named =
+        slash == std::string::npos || parts.pictureFolders.holds(fromUtf8Lossy(request.path.substr(0, slash)));
+    if (std::optional<MediaFile> media = mediaFile(parts.pages, request.path); named && media && !request.post)
         return {200, media->type, std::move(media->bytes), {}};
     return {404, "text/plain; charset=utf-8", "There is no such page, picture or sound in the directory.\n", {}};
 }
@@ -81,7 +84,7 @@ PreviewAnswer PreviewHost::answerPage(const std::string &name, const PreviewRequ
         address = single ? rowLocation(name, result->number, numberOf(request, "row", 0))
                          : rowsLocation(name, result->number, numberOf(request, "from", 0));
     parts.trail.visit(address);
-    return {200, html, shownPage(parts, loaded, request), {}, pictureHosts(parts, loaded, request)};
+    return {200, html, shownPage(parts, loaded, request), {}, pictureHosts(loaded.page)};
 }
 
 } // namespace corvanta

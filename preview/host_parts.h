@@ -3,6 +3,7 @@
 #include "preview/data_source.h"
 #include "preview/journal.h"
 #include "preview/pages.h"
+#include "preview/picture_sources.h"
 #include "preview/results.h"
 
 #include <mutex>
@@ -31,6 +32,7 @@ struct HostParts {
     Journal journal;
     Results results;
     Trail trail;
+    PictureFolders pictureFolders;
 };
 
 inline constexpr long rowsAStep = 100; // of a hit list

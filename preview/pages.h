@@ -39,7 +39,8 @@ struct MediaFile {
     std::string bytes;
 };
 
-// A picture or sound of the folder or of a folder below it (address in UTF-8); none for everything else.
+// A picture or sound of the folder or of a folder below it (address in UTF-8); none for everything else. Which folders
+// below it are open to visitors is the caller's to say.
 std::optional<MediaFile> mediaFile(const PageFolder &pages, std::string_view address);
 
 // A text that changes when the file of a page, or a file that the page names, changes.

@@ -135,7 +135,7 @@ SqlColumn columnOf(const std::vector<SqlColumn> &columns, const std::string &nam
     return place < 0 ? SqlColumn{} : columns[static_cast<std::size_t>(place)];
 }
 
-// What a field's text stores in a column: an empty one nothing. The failure is empty when it fits.
+// What a field's text stores in a column: an empty one nothing. Else what is wrong with it; empty when it fits.
 std::string storedField(const std::string &text, const SqlColumn &column, SqlField &stored)
 {
     const SqlClass kind = sqlClass(column);
@@ -143,9 +143,9 @@ std::string storedField(const std::string &text, const SqlColumn &column, SqlFie
     if (stored->empty())
         stored.reset();
     else if (kind == SqlClass::Number && !isNumber(*stored))
-        return "\"" + text + "\" is no number.";
+        return "is no number.";
     else if (kind != SqlClass::Text && kind != SqlClass::Number && !isDateText(*stored))
-        return "\"" + text + "\" is no date or time (2001-12-31, 23:59:59).";
+        return "is no date or time (2001-12-31, 23:59:59).";
     return {};
 }
 
@@ -186,7 +186,8 @@ Assignments assignmentsOf(const Page &p, const std::vector<SqlColumn> &tableColu
             continue;
         const std::string failure = storedField(*value, parameter.column, parameter.value);
         if (!failure.empty()) {
-            assignments.failure = toUtf8(name) + ": " + failure;
+            assignments.failure =
+                toUtf8(name) + ": " + (parameter.secret ? "what was typed" : '"' + *value + '"') + " " + failure;
             return assignments;
         }
         assignments.list.push_back({quotedName(name), std::move(parameter)});

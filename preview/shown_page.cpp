@@ -131,20 +131,6 @@ void addState(Strip &strip, const LoadedPage &loaded, const Shown &shown)
         strip.links.push_back({"Next", at(shown.first + step)});
 }
 
-// "https://host:1" of an address; empty for other texts.
-std::string hostOf(const std::string &address)
-{
-    const std::string text = trimmed(address);
-    const std::size_t scheme = text.find("://");
-    if (scheme == std::string::npos ||
-        !(sameText(text.substr(0, scheme), "http") || sameText(text.substr(0, scheme), "https")))
-        return {};
-    const std::string host = text.substr(0, text.find_first_of("/?#", scheme + 3));
-    const bool plain = host.find_first_not_of("abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789.-:/") ==
-                       std::string::npos;
-    return plain ? host : std::string();
-}
-
 } // namespace
 
 std::string ownRecords(HostParts &parts, const LoadedPage &loaded, const PreviewRequest &request)
@@ -188,24 +174,7 @@ Strip stripOf(const HostParts &parts, const std::string &page, const PreviewRequ
     return strip;
 }
 
-std::vector<std::string> pictureHosts(const HostParts &parts, const LoadedPage &loaded, const PreviewRequest &request)
-{
-    const Page &p = loaded.page;
-    const std::vector<TemplateValue> values = valuesOn(p, shownOf(parts, request));
-    std::vector<std::string> hosts;
-    for (const ObjectRecord &o : p.objects) {
-        if (kindOf(o.kind) != Kind::ImageDb)
-            continue;
-        hosts.push_back(hostOf(toUtf8(o.srcfile)));
-        for (const TemplateValue &v : values)
-            if (v.name == toUtf8(o.ctlname))
-                hosts.push_back(hostOf(v.value));
-    }
-    std::erase(hosts, std::string());
-    return hosts;
-}
-
-std::string shownPage(const HostParts &parts, const LoadedPage &loaded, const PreviewRequest &request)
+std::string shownPage(HostParts &parts, const LoadedPage &loaded, const PreviewRequest &request)
 {
     const Page &p = loaded.page;
     const Shown shown = shownOf(parts, request);
@@ -214,8 +183,9 @@ std::string shownPage(const HostParts &parts, const LoadedPage &loaded, const Pr
     addState(strip, loaded, shown);
     if (!shown.result && !valueOf(request.query, "result").empty())
         strip.state = "the result is no longer kept: ask again";
-    return withStrip(fillTemplate(htmlTemplate(p, parts.pages.folder), valuesOn(p, shown), filledGrids(p, shown)),
-                     strip);
+    const std::vector<TemplateValue> values = valuesOn(p, shown);
+    parts.pictureFolders.add(pictureFolders(p, values));
+    return withStrip(fillTemplate(htmlTemplate(p, parts.pages.folder), values, filledGrids(p, shown)), strip);
 }
 
 } // namespace corvanta

@@ -13,11 +13,8 @@ namespace corvanta {
 // result, below the token. Empty for other pages and when the statement failed.
 std::string ownRecords(HostParts &parts, const LoadedPage &loaded, const PreviewRequest &request);
 
-// The page with the record or the hits that the request names.
-std::string shownPage(const HostParts &parts, const LoadedPage &loaded, const PreviewRequest &request);
-
-// The hosts ("https://host") that the page's Image DB objects name, by their path or by the record's value.
-std::vector<std::string> pictureHosts(const HostParts &parts, const LoadedPage &loaded, const PreviewRequest &request);
+// The page with the record or the hits that the request names. Notes the folders of its pictures.
+std::string shownPage(HostParts &parts, const LoadedPage &loaded, const PreviewRequest &request);
 
 // What the strip of a page says that is the same for every page.
 Strip stripOf(const HostParts &parts, const std::string &page, const PreviewRequest &request);

@@ -91,10 +91,10 @@ private:
         out += text.substr(at, length);
         at = std::min(at + length, text.size());
     }
-    void bindText(std::string value, bool secret)
+    void bindValue(std::string value, bool secret, SqlClass kind = SqlClass::Text)
     {
         out += '?';
-        filled.statement.parameters.push_back({std::move(value), {}, secret});
+        filled.statement.parameters.push_back({std::move(value), columnOfClass(kind), secret});
     }
 
     void step()
@@ -170,11 +170,15 @@ private:
         at += whole.size();
         const std::size_t brace = escapeStart();
         if (brace == std::string::npos)
-            return bindText(std::move(value), secret);
+            return bindValue(std::move(value), secret);
         if (isDateText(value) && secret) { // a bound value is not shown
+            const std::string word = trimmed(std::string_view(out).substr(brace + 1));
             out.erase(brace);
             at = behindEscape();
-            return bindText(std::move(value), true);
+            return bindValue(std::move(value), true,
+                             sameText(word, "d")   ? SqlClass::Date
+                             : sameText(word, "t") ? SqlClass::Time
+                                                   : SqlClass::DateAndTime);
         }
         if (isDateText(value)) {
             // Some drivers know the escape only with a blank.
@@ -208,12 +212,12 @@ private:
             return;
         }
         switch (valueClass(p, found.object)) {
-        case ValueClass::Text: return bindText(valueOf(found.object), isPasswordField(p, found.object));
+        case ValueClass::Text: return bindValue(valueOf(found.object), isPasswordField(p, found.object));
         case ValueClass::Number:
             if (!value.empty() && !isNumber(value))
                 return fail(found.object, "is no number.");
             if (!value.empty() && isPasswordField(p, found.object)) // a bound value is not shown
-                return bindText(value, true);
+                return bindValue(value, true, SqlClass::Number);
             // A sign behind a "-" would begin a comment.
             out += value.empty() ? "NULL" : isDigit(value.front()) ? value : "(" + value + ")";
             return;
@@ -221,7 +225,7 @@ private:
             if (!value.empty() && !isDateText(value))
                 return fail(found.object, "is no date (2001-12-31).");
             if (!value.empty() && isPasswordField(p, found.object))
-                return bindText(value, true);
+                return bindValue(value, true, SqlClass::Date);
             out += value.empty() ? "NULL" : "{d '" + value + "'}";
             return;
         }

@@ -50,6 +50,7 @@ void watchSignals()
     sigaction(SIGINT, &end, nullptr);
     sigaction(SIGTERM, &end, nullptr);
     sigaction(SIGHUP, &end, nullptr);
+    sigaction(SIGQUIT, &end, nullptr); // would leave a terminal that asks for a password silent
     signal(SIGPIPE, SIG_IGN);
 }
 
@@ -159,11 +160,13 @@ void serveUntilEnd(ToolRun &run, const PageFolder &pages, PreviewServer &server,
                    const std::string &base)
 {
     std::thread serving([&] { server.serve(); });
-    Running running{run, pages, server, base, arguments.addressFile};
-    running.tell(pages.start);
-    if (arguments.open)
-        running.openPage(pages.start);
-    running.waitForEnd();
+    {
+        Running running{run, pages, server, base, arguments.addressFile};
+        running.tell(pages.start);
+        if (arguments.open)
+            running.openPage(pages.start);
+        running.waitForEnd();
+    } // the page for the browser goes, also where requests do not end
     server.stop();
     std::atomic<bool> ended = false;
     std::thread guard([&ended] { // a database that does not answer holds nobody up

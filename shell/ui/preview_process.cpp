@@ -133,7 +133,7 @@ private:
             if (!file && !line.startsWith("http://"))
                 continue;
             const QUrl address = file ? QUrl::fromLocalFile(line) : QUrl(line);
-            if (!QDesktopServices::openUrl(address))
+            if (!file || !QDesktopServices::openUrl(address)) // an address would be seen among the browser's arguments
                 showMessage({"Open this address in a browser:\r" + toBytes(address.toString()), title,
                              Icon::Information, Buttons::Ok});
         }

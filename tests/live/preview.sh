@@ -87,6 +87,6 @@ walk SQLite sqlite3 "$work/shop.db"
 use_database "$(printf 'Driver=PostgreSQL\nServername=127.0.0.1\nPort=%s\nDatabase=shop' "$port")" clerk "$password"
 walk PostgreSQL psql -A -t -q shop -c
 
-echo "The password is asked for on the terminal, unseen, and Ctrl+C leaves the terminal as it was"
-use_database "$(printf 'Driver=PostgreSQL\nServername=127.0.0.1\nPort=%s\nDatabase=shop' "$port")" '' ''
+echo "The password is asked for on the terminal, unseen, where the stored one is wrong, and Ctrl+C leaves the terminal as it was"
+use_database "$(printf 'Driver=PostgreSQL\nServername=127.0.0.1\nPort=%s\nDatabase=shop' "$port")" clerk 'not it'
 env -u PGUSER -u PGPASSWORD python3 tests/live/preview/terminal.py "$programs/odspage" "$work/pages" clerk "$password"

@@ -60,13 +60,13 @@ struct FieldCase {
 TEST(ConverterFields, TextBoxesFollowTypeSystemObjectFlagsAndPage)
 {
     const FieldCase cases[] = {
-        {0, -1, 40, 0, PageKind::Query, "<input type=\"text\"| maxlength=\"40\"| name=\"n\"", " value="},
+        {0, -1, 40, 0, PageKind::Query, "<input type=\"text\"| maxlength=\"40\"| value=\"@n@\"", "number"},
         {0, -1, 0, readonlyFlag, PageKind::Record, " value=\"@n@\"| readonly", "maxlength"},
         {6, -1, 9, 0, PageKind::Record, " inputmode=\"decimal\"| maxlength=\"9\"| value=\"@n@\"", "number"},
         {1, -1, 0, 0, PageKind::QueryView, " inputmode=\"numeric\"| value=\"@n@\"| pattern=", "number"},
         {3, -1, 0, multiFlag, PageKind::Record, "<input type=\"text\"| placeholder=\"YYYY-MM-DD\"| value=\"@n@\"",
          "date"},
-        {4, -1, 0, 0, PageKind::Query, " placeholder=\"HH:MM\"", "value="},
+        {4, -1, 0, 0, PageKind::Query, " placeholder=\"HH:MM\"| value=\"@n@\"", "number"},
         {0, 1, 8, multiFlag, PageKind::Record, " type=\"password\"| maxlength=\"8\"", "@n@"},
         {0, 0, 0, 0, PageKind::Query, " autocomplete=\"username\"", "password"},
         {0, -1, 255, multiFlag, PageKind::Record, "<textarea | maxlength=\"255\"|>@n@</textarea>", "type="},

@@ -124,6 +124,9 @@ TEST_F(PreviewFill, RecordsAreChangedByTheirUpdateKeys)
     EXPECT_EQ(told(deleteStatement(p, {columns, columns, row})), "Delete From Customers Where Number = ?|8");
     EXPECT_EQ(told(insertStatement(p, columns, values)),
               "Insert Into Customers (Name, \"Credit Limit\", Born) Values (?, ?, ?)|Nobody|250|1981-08-19");
+    values[4] = "hunter";
+    EXPECT_EQ(told(insertStatement(p, {{"secret", 4, 10, 0}}, values)), "! Secret: what was typed is no number.");
+    values[4] = "";
     row[2] = values[2] = "$1,5";
     EXPECT_EQ(update(), "Update Customers Set Name = ? Where Number = ?|Nobody|8") << "as the database spells it";
     values[2] = "1,5";

@@ -131,6 +131,10 @@ TEST_F(PreviewHostTest, ServesPagesAndMediaOfTheDirectoryAlone)
 {
     addPages();
     drive.add("PAGES/photos/Bell.bmp", "picture");
+    drive.add("PAGES/other/Bell.bmp", "picture");
+    Page gallery;
+    recordAt(gallery, addTo(gallery, Kind::ImageDb)).srcfile = ".\\PHOTOS\\";
+    drive.add("PAGES/GALLERY.ODS", serialisePage(gallery));
     drive.add("PAGES/notes.txt", "secret");
     drive.add("PAGES/.hidden.png", "secret");
     drive.add("OUTSIDE.bmp", "secret");
@@ -142,7 +146,10 @@ TEST_F(PreviewHostTest, ServesPagesAndMediaOfTheDirectoryAlone)
         {"menu.hts", 200},
         {"Top.hts", 200},
         {"MENU.ods", 200},
+        {"photos/bell.BMP", 404}, // no page has named the folder yet
+        {"GALLERY.hts", 200},
         {"photos/bell.BMP", 200},
+        {"other/bell.bmp", 404},
         {".end", 200},
         {"none.hts", 404},
         {"BROKEN.hts", 500},
