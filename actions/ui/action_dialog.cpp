@@ -2,7 +2,6 @@
 
 #include "actions/action_choice.h"
 #include "platform/qt/text.h"
-#include "platform/qt/window_switch.h"
 #include "platform/text.h"
 
 #include <QLineEdit>
@@ -40,7 +39,6 @@ bool ActionDialog::run(QWidget &first, const std::function<std::string()> &okTex
     first.setFocus();
     setMinimumWidth(fontMetrics().averageCharWidth() * leastWidth);
     CentreDialog(*this);
-    stayInFront(*this);
     const bool confirmed = exec() == Accepted;
     if (confirmed)
         result = okText();

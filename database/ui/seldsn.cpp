@@ -4,7 +4,6 @@
 #include "database/connection.h"
 #include "platform/qt/dialogs.h"
 #include "platform/qt/text.h"
-#include "platform/qt/window_switch.h"
 
 #include <QBoxLayout>
 #include <QDialog>
@@ -53,7 +52,6 @@ void showDialog()
     confirmChoice(*dsnlist, *buttons.front());
     dsnlist->setFocus();
     CentreDialog(dialog);
-    stayInFront(dialog);
     if (dialog.exec() == QDialog::Accepted)
         dialogExchange() =
             toBytes(dsnlist->currentItem()->text()) + '\t' + toBytes(user->text()) + '\t' + toBytes(password->text());

@@ -5,7 +5,6 @@
 #include "document/tablist.h"
 #include "platform/qt/dialogs.h"
 #include "platform/qt/text.h"
-#include "platform/qt/window_switch.h"
 
 #include <QBoxLayout>
 #include <QDialog>
@@ -29,7 +28,6 @@ void showDialog()
     colname->setText(toQString(fieldAt(dialogExchange(), 1)));
     header->selectAll();
     CentreDialog(dialog);
-    stayInFront(dialog);
     if (dialog.exec() == QDialog::Accepted)
         dialogExchange() = toBytes(header->text()) + '\t' + toBytes(colname->text());
 }

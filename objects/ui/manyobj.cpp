@@ -6,7 +6,6 @@
 #include "objects/ui/property_dialog.h"
 #include "platform/asking.h"
 #include "platform/qt/text.h"
-#include "platform/qt/window_switch.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -182,7 +181,6 @@ void OpenSharedProperties(const std::vector<std::int16_t> &indices)
     if (indices.size() < 2)
         return;
     SharedDialog dialog(indices);
-    stayInFront(dialog);
     if (dialog.exec() == QDialog::Accepted)
         documentEvents().pageChanged();
 }

@@ -58,7 +58,6 @@ void OpenObjectProperties(std::int16_t kindCode, std::function<void()> closed)
     dialog->complete();
     if (!row.modal)
         return showSwitchingOff(dialog.release(), [closed] { runClosed(closed); });
-    stayInFront(*dialog);
     dialog->exec();
     dialog.reset();
     runClosed(closed);

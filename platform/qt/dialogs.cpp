@@ -1,15 +1,9 @@
 #include "platform/qt/dialogs.h"
 
-#include "platform/placement.h"
-
 #include <QDialog>
-#include <QGuiApplication>
 #include <QLabel>
 #include <QPushButton>
-#include <QScreen>
 #include <QVBoxLayout>
-
-#include <cmath>
 
 namespace corvanta {
 
@@ -17,15 +11,6 @@ namespace {
 
 constexpr int columnGap = 8; // pixels
 constexpr int gapAboveButtons = 6;
-
-Area areaOf(const QWidget &window, const QPoint &origin)
-{
-    const QRect frame = window.frameGeometry().translated(-origin);
-    return {frame.x() * twipsPerPixelX(), frame.y() * twipsPerPixelY(), frame.width() * twipsPerPixelX(),
-            frame.height() * twipsPerPixelY()};
-}
-
-int pixels(double twips, double twipsPerPixel) { return static_cast<int>(std::floor(twips / twipsPerPixel)); }
 
 QPushButton *addButton(QBoxLayout &layout, QWidget *parent, const ButtonRow &row)
 {
@@ -49,29 +34,6 @@ void addNotice(QDialog &dialog, QBoxLayout &row)
 }
 
 } // namespace
-
-double twipsPerPixelX() { return 1440 / QGuiApplication::primaryScreen()->logicalDotsPerInchX(); }
-
-double twipsPerPixelY() { return 1440 / QGuiApplication::primaryScreen()->logicalDotsPerInchY(); }
-
-void CentreDialog(QWidget &dialog, QWidget *owner)
-{
-    if (dialog.windowState() & (Qt::WindowMinimized | Qt::WindowMaximized | Qt::WindowFullScreen))
-        return;
-    if (!dialog.testAttribute(Qt::WA_Resized))
-        dialog.resize(dialog.sizeHint());
-    const QRect screen = dialog.screen()->geometry();
-    const double twipsX = twipsPerPixelX(), twipsY = twipsPerPixelY();
-    const Area before = areaOf(dialog, screen.topLeft());
-    std::optional<Area> reference;
-    if (owner && !owner->isMinimized())
-        reference = areaOf(*owner, screen.topLeft());
-    const Area after = centredArea(before, {0, 0, screen.width() * twipsX, screen.height() * twipsY}, reference);
-    const QSize surplus(pixels(before.width - after.width, twipsX), pixels(before.height - after.height, twipsY));
-    if (!surplus.isNull())
-        dialog.resize(dialog.size() - surplus);
-    dialog.move(screen.topLeft() + QPoint(pixels(after.left, twipsX), pixels(after.top, twipsY)));
-}
 
 void TrimWindowMenu(QWidget &dialog, int mode)
 {

@@ -31,9 +31,14 @@ namespace corvanta {
 double twipsPerPixelX();
 double twipsPerPixelY();
 
-// Places a dialog over the middle of its owner, or of its screen without an owner or with a minimised one. Nothing
-// happens unless the dialog is in the normal window state. Works before the dialog is shown.
-void CentreDialog(QWidget &dialog, QWidget *owner = nullptr);
+// Places a dialog with its frame over the middle of its owner, or of its screen without an owner or with a minimised
+// one, and in front of the window that the author works in. A dialog without room on the screen scrolls its fields,
+// also when it grows later. Nothing happens unless the dialog is in the normal window state. Called before it is shown.
+void CentreDialog(QDialog &dialog, QWidget *owner = nullptr);
+
+// What the window system puts round a window, in pixels; of one that it has not framed yet, what the program's others
+// have.
+QSize frameOf(const QWidget &window);
 
 // Takes entries off a dialog's window menu before it is shown; mode 1 leaves "Move" and "Close".
 void TrimWindowMenu(QWidget &dialog, int mode);

@@ -6,21 +6,53 @@
 #include <QPointer>
 #include <QWindow>
 
+#include <ranges>
+
 namespace corvanta {
 
 namespace {
 
-// A window that is switched off cannot be closed either: what it closes with would come too early.
-class StaysOpen : public QObject {
+void bringToFront(QWidget &window)
+{
+    window.raise();
+    window.activateWindow();
+}
+
+// A window that is switched off gives way to its dialog when it is clicked. It cannot be closed either: what it closes
+// with would come too early.
+class SwitchedOff : public QObject {
 public:
-    using QObject::QObject;
+    explicit SwitchedOff(QDialog &open) : QObject(&open), dialog(open) {}
+
+    void add(QWidget &window)
+    {
+        window.setEnabled(false);
+        window.installEventFilter(this);
+        if (window.windowHandle())
+            window.windowHandle()->installEventFilter(this); // a disabled widget is told of no click
+    }
 
     bool eventFilter(QObject *, QEvent *event) override
     {
-        if (event->type() == QEvent::Close)
+        const QEvent::Type type = event->type();
+        if (type == QEvent::WindowActivate || type == QEvent::MouseButtonPress)
+            QMetaObject::invokeMethod(
+                this, [this] { giveWay(); }, Qt::QueuedConnection);
+        if (type == QEvent::Close)
             event->ignore();
-        return event->type() == QEvent::Close;
+        return type == QEvent::Close;
     }
+
+private:
+    void giveWay()
+    {
+        if (dialog.isVisible())
+            bringToFront(dialog);
+        if (QWidget *modal = QApplication::activeModalWidget())
+            bringToFront(*modal);
+    }
+
+    QDialog &dialog;
 };
 
 } // namespace
@@ -31,17 +63,24 @@ std::function<std::vector<QWidget *>()> &switchableWindows()
     return windows;
 }
 
+QWidget *switchableInFront()
+{
+    if (switchableWindows())
+        for (QWidget *window : switchableWindows()() | std::views::reverse)
+            if (window && window->isVisible())
+                return window;
+    return nullptr;
+}
+
 void showSwitchingOff(QDialog *dialog, std::function<void()> closed)
 {
     std::vector<QPointer<QWidget>> switchedOff;
     if (switchableWindows())
         for (QWidget *window : switchableWindows()())
             switchedOff.emplace_back(window);
-    auto *staysOpen = new StaysOpen(dialog);
-    for (const auto &window : switchedOff) {
-        window->setEnabled(false);
-        window->installEventFilter(staysOpen);
-    }
+    auto *filter = new SwitchedOff(*dialog);
+    for (const auto &window : switchedOff)
+        filter->add(*window);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     QObject::connect(dialog, &QObject::destroyed, [switchedOff, closed] {
         for (const auto &window : switchedOff)
@@ -50,7 +89,6 @@ void showSwitchingOff(QDialog *dialog, std::function<void()> closed)
         if (closed)
             closed();
     });
-    stayInFront(*dialog);
     dialog->show();
     dialog->activateWindow();
 }
@@ -58,10 +96,11 @@ void showSwitchingOff(QDialog *dialog, std::function<void()> closed)
 void stayInFront(QDialog &dialog)
 {
     const QWidget *active = QApplication::activeWindow();
-    if (!active || !active->windowHandle())
+    const QWidget *front = active ? active : switchableInFront();
+    if (!front || !front->windowHandle())
         return;
     dialog.winId();
-    dialog.windowHandle()->setTransientParent(active->windowHandle());
+    dialog.windowHandle()->setTransientParent(front->windowHandle());
 }
 
 } // namespace corvanta

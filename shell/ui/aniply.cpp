@@ -4,7 +4,6 @@
 #include "platform/placement.h"
 #include "platform/qt/dialogs.h"
 #include "platform/qt/text.h"
-#include "platform/qt/window_switch.h"
 
 #include <QDialog>
 #include <QLabel>
@@ -18,12 +17,11 @@ namespace {
 
 Area areaOf(const QRect &r) { return {double(r.x()), double(r.y()), double(r.width()), double(r.height())}; }
 
-// The dialog gets the frame that its owner has.
-void moveOff(QDialog &dialog, const QWidget &owner, const QWidget &canvas)
+void moveOff(QDialog &dialog, const QWidget &canvas)
 {
-    const QRect frame(dialog.pos(), dialog.size() + owner.frameGeometry().size() - owner.size());
+    const QRect frame(dialog.pos(), dialog.size() + frameOf(dialog));
     const Area place =
-        movedOff(areaOf(frame), areaOf(canvas.frameGeometry()), areaOf(owner.screen()->availableGeometry()));
+        movedOff(areaOf(frame), areaOf(canvas.frameGeometry()), areaOf(dialog.screen()->availableGeometry()));
     dialog.move(int(place.left), int(place.top));
 }
 
@@ -41,8 +39,7 @@ void showPlayer(QWidget &owner, const QWidget &canvas)
     if (!texts.stopbut.empty())
         stopbut->setText(toQString(texts.stopbut));
     CentreDialog(dialog, &owner);
-    moveOff(dialog, owner, canvas);
-    stayInFront(dialog);
+    moveOff(dialog, canvas);
     dialog.exec();
     closePlayer();
 }

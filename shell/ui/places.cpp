@@ -9,7 +9,6 @@
 #include <QEvent>
 #include <QGuiApplication>
 #include <QScreen>
-#include <QStyle>
 #include <QTimer>
 #include <QVariant>
 #include <QWidget>
@@ -84,13 +83,6 @@ QSize sizeOf(const QWidget &window)
 {
     const NormalPlace *normal = NormalPlace::of(window);
     return normal && normal->known() ? normal->size : window.size();
-}
-
-// What the window manager puts round a window; an estimate until it has done so.
-QSize frameOf(const QWidget &window)
-{
-    const QSize frame = window.frameGeometry().size() - window.size();
-    return frame.isEmpty() ? QSize(4, window.style()->pixelMetric(QStyle::PM_TitleBarHeight) + 6) : frame;
 }
 
 ScreenSizes screenSizes(const QWidget &main, const QWidget &canvas)

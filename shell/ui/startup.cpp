@@ -39,7 +39,6 @@
 #include <QTimer>
 
 #include <cmath>
-#include <ranges>
 
 namespace corvanta {
 
@@ -220,13 +219,7 @@ void installDesktop()
     installClipboard();
     installHelp();
     installHelpKey();
-    installAsking([]() -> QWidget * {
-        if (switchableWindows())
-            for (QWidget *window : switchableWindows()() | std::views::reverse) // the canvas, if it is there
-                if (window && window->isVisible())
-                    return window;
-        return nullptr;
-    });
+    installAsking(switchableInFront); // the canvas, if it is there
     asking().askText = showInput;
     RoomCommands &commands = roomCommands();
     commands.showDirectory = showDirectory;

@@ -60,5 +60,21 @@ wait_until no_menu
 keys alt+o
 wait_until menu_open
 keys Escape Escape
+
+echo "An open dialog stays in front of the windows that it switched off, whichever is clicked"
+last_is() { [ "$(xprop -id "$(xprop -root _NET_CLIENT_LIST_STACKING | sed 's/.* //')" WM_NAME)" = "WM_NAME(STRING) = \"$1\"" ]; }
+for dialog in 'Page Properties':alt+p:p 'Object List':alt+o:l 'Support File Directory':alt+f:d; do
+  IFS=: read -r title menu item <<<"$dialog"
+  activate "$canvas_title"
+  keys "$menu" "$item"
+  wait_until last_is "$title"
+  for clicked in "$canvas_title" 'Corvanta Form Editor'; do
+    xdotool mousemove --window "$(window "$clicked")" 4 50 click 1
+    sleep 0.3
+    wait_until last_is "$title"
+  done
+  keys Escape
+  wait_until no_window "$title"
+done
 end_editor
 echo "The real program did all of it."
