@@ -16,6 +16,8 @@ namespace corvanta {
 
 namespace {
 
+constexpr int leastCaption = 16; // characters of a long caption that are seen
+
 std::string storedAction()
 {
     const std::int16_t current = editing().curobj;
@@ -43,6 +45,8 @@ ActionControls addActionControls(Fields &fields, const QString &label, ActionTar
 {
     ActionControls controls;
     controls.actlist = addComboRow(fields, "actlist", label);
+    controls.actlist->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    controls.actlist->setMinimumContentsLength(leastCaption);
     controls.actbut = addButtonBeside(fields, "actbut", "&Properties...");
     QObject::connect(controls.actlist, &QComboBox::currentIndexChanged, controls.actbut,
                      [controls, target] { ChooseAction(controls, target); });

@@ -1,6 +1,7 @@
 #include "actions/ui/action_dialog.h"
 
 #include "actions/action_choice.h"
+#include "actions/action_kinds.h"
 #include "platform/qt/text.h"
 #include "platform/text.h"
 
@@ -28,6 +29,12 @@ void enableWithText(QPushButton &ok, QLineEdit &field)
 ActionDialog::ActionDialog(const char *name, const char *caption)
     : result(dialogExchange()), column(startDialog(*this, name, caption))
 {
+}
+
+Group ActionDialog::addParameters()
+{
+    const QString caption = toQString(actionCaption(result));
+    return addGroup(contents(), "parameters", caption.isEmpty() ? windowTitle() : caption);
 }
 
 bool ActionDialog::run(QWidget &first, const std::function<std::string()> &okText, const char *cancelName)

@@ -17,6 +17,9 @@ public:
 
     QBoxLayout &contents() { return *column; }
 
+    // A frame for the parameters, with the caption of the action's kind, or the dialog's for one that is not offered.
+    Group addParameters();
+
     // OK is enabled only while the field's text is not blank.
     void requireText(QLineEdit &field) { required = &field; }
 

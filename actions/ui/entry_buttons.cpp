@@ -2,6 +2,7 @@
 
 #include "platform/qt/text.h"
 
+#include <QKeyEvent>
 #include <QListWidget>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -12,6 +13,9 @@ namespace corvanta {
 
 namespace {
 
+using Commands = std::vector<EntryCommand>;
+using Edit = std::function<void(EntryCommand, int)>;
+
 const char *captionOf(EntryCommand command)
 {
     switch (command) {
@@ -19,14 +23,62 @@ const char *captionOf(EntryCommand command)
     case EntryCommand::Edit: return "&Edit";
     case EntryCommand::Insert: return "&Ins";
     case EntryCommand::Delete: return "&Del";
+    case EntryCommand::Up:
+    case EntryCommand::Down: break;
     }
     return "";
 }
 
+std::optional<EntryCommand> commandOf(const QKeyEvent &key)
+{
+    const auto modifiers = key.modifiers() & ~Qt::KeypadModifier;
+    if (modifiers == Qt::AltModifier && key.key() == Qt::Key_Up)
+        return EntryCommand::Up;
+    if (modifiers == Qt::AltModifier && key.key() == Qt::Key_Down)
+        return EntryCommand::Down;
+    if (modifiers != Qt::NoModifier)
+        return std::nullopt;
+    switch (key.key()) {
+    case Qt::Key_F2: return EntryCommand::Edit;
+    case Qt::Key_Insert: return EntryCommand::Insert;
+    case Qt::Key_Delete: return EntryCommand::Delete;
+    }
+    return std::nullopt;
+}
+
+// The keys of a list. Insert without a selected entry is New.
+class EntryKeys : public QObject {
+public:
+    EntryKeys(QListWidget &edited, Commands offered, Edit command)
+        : QObject(&edited), list(edited), commands(std::move(offered)), edit(std::move(command))
+    {
+        list.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() != QEvent::KeyPress)
+            return false;
+        auto command = commandOf(*static_cast<QKeyEvent *>(event));
+        if (!command || (takesEntry(*command) && std::ranges::find(commands, *command) == commands.end()))
+            return false;
+        const int row = list.currentRow();
+        if (row < 0 && command == EntryCommand::Insert)
+            command = EntryCommand::New;
+        if (row >= 0 || !needsSelection(*command))
+            edit(*command, row);
+        return true;
+    }
+
+private:
+    QListWidget &list;
+    Commands commands;
+    Edit edit;
+};
+
 } // namespace
 
-void addEntryButtons(QBoxLayout &layout, const char *name, const std::vector<EntryCommand> &commands, QListWidget &list,
-                     std::function<void(EntryCommand, int)> edit)
+void addEntryCommands(QBoxLayout &layout, const char *name, const Commands &commands, QListWidget &list, Edit edit)
 {
     std::vector<std::string> names;
     for (std::size_t i = 0; i < commands.size(); ++i)
@@ -45,12 +97,13 @@ void addEntryButtons(QBoxLayout &layout, const char *name, const std::vector<Ent
     };
     update();
     QObject::connect(&list, &QListWidget::currentRowChanged, &list, update);
-    if (std::find(commands.begin(), commands.end(), EntryCommand::Edit) != commands.end())
+    new EntryKeys(list, commands, edit);
+    if (std::ranges::find(commands, EntryCommand::Edit) != commands.end())
         QObject::connect(&list, &QListWidget::itemDoubleClicked, &list,
                          [edit, &list] { edit(EntryCommand::Edit, list.currentRow()); });
 }
 
-void showEntries(QListWidget &list, const std::vector<std::string> &texts, int selected)
+void showLines(QListWidget &list, const std::vector<std::string> &texts, int selected)
 {
     {
         const QSignalBlocker quiet(list);

@@ -14,7 +14,7 @@ void showGopact()
     ActionDialog dialog("gopact");
     ParameterFields parameters(dialog.result);
     dialog.result = withTopPage(dialog.result);
-    Fields fields = addFields(dialog.contents());
+    Fields fields = dialog.addParameters().fields;
     QLineEdit *pagnam = parameters.addLine(fields, "pagnam", "Go to page:");
     if (trimmed(toBytes(pagnam->text())).empty())
         pagnam->setText("TOP");

@@ -10,26 +10,9 @@ namespace corvanta {
 
 namespace {
 
-std::vector<std::string> captionsOf(const std::vector<ActionEntry> &entries)
+std::optional<ActionEntry> askEntry(EntryCommand command, const ActionEntry &selected)
 {
-    std::vector<std::string> captions;
-    for (const ActionEntry &entry : entries)
-        captions.push_back(actionCaption(entry.action));
-    return captions;
-}
-
-void editEntry(std::vector<ActionEntry> &entries, QListWidget &list, EntryCommand command, int selected)
-{
-    ActionEntry entry;
-    if (command != EntryCommand::Delete) {
-        const bool edits = command == EntryCommand::Edit;
-        const auto edited = editActionEntry(edits ? entries.at(static_cast<std::size_t>(selected)) : ActionEntry());
-        if (!edited)
-            return;
-        entry = *edited;
-    }
-    const int now = applyEntry(entries, command, selected, entry);
-    showEntries(list, captionsOf(entries), now);
+    return editActionEntry(command == EntryCommand::Edit ? selected : ActionEntry());
 }
 
 } // namespace
@@ -40,11 +23,14 @@ void showListpact()
     std::vector<ActionEntry> entries = decodeActionList(dialog.result);
     Group group = addGroup(dialog.contents(), "listgroup", "List of Actions");
     QListWidget *listedit = addListRow(group.fields, "listedit", {});
-    addEntryButtons(
-        *group.contents, "lstbut", {EntryCommand::New, EntryCommand::Edit, EntryCommand::Insert, EntryCommand::Delete},
-        *listedit,
-        [&entries, listedit](EntryCommand command, int selected) { editEntry(entries, *listedit, command, selected); });
-    showEntries(*listedit, captionsOf(entries), -1);
+    const EntryList<ActionEntry> list{entries,
+                                      *listedit,
+                                      [](const ActionEntry &entry, std::size_t) { return actionCaption(entry.action); },
+                                      askEntry,
+                                      {}};
+    addEntryButtons(*group.contents, "lstbut",
+                    {EntryCommand::New, EntryCommand::Edit, EntryCommand::Insert, EntryCommand::Delete}, list);
+    showEntries(list, -1);
     dialog.run(*listedit, [&entries] { return encodeActionList(entries); });
 }
 

@@ -27,7 +27,7 @@ void showTextDialog(const TextDialog &row)
 {
     ActionDialog dialog(row.name, row.caption);
     ParameterFields parameters(dialog.result);
-    Fields fields = addFields(dialog.contents());
+    Fields fields = dialog.addParameters().fields;
     std::vector<QLineEdit *> lines;
     for (const TextField &field : row.fields)
         lines.push_back(parameters.addLine(fields, field.name, field.label));

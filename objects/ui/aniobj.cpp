@@ -26,14 +26,6 @@ struct FrameFields {
     int shown = -1; // the frame whose fields are shown; -1 none
 };
 
-std::vector<std::string> linesOf(const std::vector<Frame> &frames)
-{
-    std::vector<std::string> lines;
-    for (std::size_t i = 0; i < frames.size(); ++i)
-        lines.push_back("Animation Frame " + std::to_string(i + 1));
-    return lines;
-}
-
 std::int16_t numberIn(const QLineEdit &field) { return ParseInt16Clamped(toBytes(field.text())); }
 
 std::string textIn(const QLineEdit &field) { return trimmed(toBytes(field.text())); }
@@ -61,13 +53,14 @@ void showField(QLineEdit &field, const char *label, const QString &text, bool en
     field.setText(text);
 }
 
-// Without a frame the fields are disabled and empty; a stationary animation has the place of its first frame.
-void showFrame(FrameFields &f, int row)
+// Without a frame the fields are disabled and empty; a stationary animation has the place of its first frame, unless
+// that of another one is to be corrected.
+void showFrame(FrameFields &f, int row, bool corrected = false)
 {
     f.shown = row;
     const bool any = row >= 0;
     const Frame frame = any ? f.d.values.frames[static_cast<std::size_t>(row)] : Frame();
-    const bool placed = row == 0 || (any && !f.frozen->isChecked());
+    const bool placed = row == 0 || (any && (corrected || !f.frozen->isChecked()));
     const auto number = [&](int value) { return any ? QString::number(value) : QString(); };
     const auto place = [&](int value) { return placed || !any ? number(value) : QString("N/A"); };
     showField(*f.ptop, "&Top:", place(frame.top), placed, any);
@@ -83,13 +76,22 @@ void ShowFrameFields(FrameFields &f)
     showFrame(f, f.list->currentRow());
 }
 
-void editFrames(FrameFields &f, EntryCommand command, int selected)
+EntryList<Frame> editedFrames(const std::shared_ptr<FrameFields> &f)
 {
-    TakeFrameFields(f);
-    f.shown = -1; // the rows move: nothing is to be taken into them
-    auto &frames = f.d.values.frames;
-    const int now = applyEntry(frames, command, selected);
-    showEntries(*f.list, linesOf(frames), now);
+    const auto before = [f] {
+        TakeFrameFields(*f);
+        f->shown = -1; // the rows move: nothing is to be taken into them
+    };
+    const auto line = [](const Frame &, std::size_t i) { return "Animation Frame " + std::to_string(i + 1); };
+    return {f->d.values.frames, *f->list, line, {}, before};
+}
+
+// A message about a frame has selected it.
+void showRefused(FrameFields &f, const Confirmation &refused)
+{
+    const auto *field = f.d.findChild<QWidget *>(QString::fromStdString(refused.focus));
+    if (refused.entry >= 0 && field && !field->isEnabled())
+        showFrame(f, refused.entry, true);
 }
 
 void addFrameFields(FrameFields &f, QBoxLayout &layout)
@@ -104,8 +106,9 @@ void addFrameFields(FrameFields &f, QBoxLayout &layout)
     };
     f.imgfn = addMediaField(group.fields, "imgfn", "I&mage:", Media::Image, invalid("image"));
     f.sndfn = addMediaField(group.fields, "sndfn", "S&ound:", Media::Sound, invalid("sound"));
-    f.duration = addNumberRow(group.fields, "duration", "&Duration:");
-    addHintBeside(group.fields, "(1/10 seconds)");
+    Fields timing = addFields(*group.contents);
+    f.duration = addNumberRow(timing, "duration", "&Duration:");
+    addHintBeside(timing, "(1/10 seconds)");
 }
 
 void addPlayback(FrameFields &f, QBoxLayout &layout)
@@ -126,19 +129,20 @@ void buildAniobj(PropertyDialog &d)
     const auto columns = addColumns(d.contents(), 2);
     auto f = std::make_shared<FrameFields>(FrameFields{d});
     addStandardProperties(d, *columns[0], false);
-    addActionGroup(d, *columns[0], "&Action:");
+    addActionGroup(d, *columns[0]);
     addPlayback(*f, *columns[0]);
 
     Group frames = addGroup(*columns[1], "frames", "Frames");
     f->list = addListRow(frames.fields, "aniedit", "");
-    addEntryButtons(*frames.contents, "lbbut", {EntryCommand::New, EntryCommand::Delete, EntryCommand::Insert},
-                    *f->list, [f](EntryCommand command, int selected) { editFrames(*f, command, selected); });
+    const EntryList<Frame> edited = editedFrames(f);
+    addEntryButtons(*frames.contents, "lbbut", {EntryCommand::New, EntryCommand::Delete, EntryCommand::Insert}, edited);
     addFrameFields(*f, *columns[1]);
 
     QObject::connect(f->list, &QListWidget::currentRowChanged, f->list, [f] { ShowFrameFields(*f); });
     QObject::connect(f->frozen, &QCheckBox::toggled, f->list, [f] { ShowFrameFields(*f); });
-    d.onLoad([f] { showEntries(*f->list, linesOf(f->d.values.frames), f->d.values.frames.empty() ? -1 : 0); });
+    d.onLoad([edited] { showEntries(edited, edited.entries.empty() ? -1 : 0); });
     d.onTake([f] { TakeFrameFields(*f); });
+    d.onRefused([f](const Confirmation &refused) { showRefused(*f, refused); });
 }
 
 } // namespace corvanta

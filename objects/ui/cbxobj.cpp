@@ -12,17 +12,14 @@ namespace {
 
 constexpr TextEntries comboBox{"combo box", "Combo Box Properties", "Combo box entry:"};
 
-void editEntry(PropertyDialog &d, QListWidget &list, EntryCommand command, int selected)
+EntryList<std::string> entriesOf(PropertyDialog &d, QListWidget &list)
 {
     auto &entries = d.values.comboEntries;
-    std::string text;
-    if (command != EntryCommand::Delete) {
-        text = askEntryText(comboBox, command, entries.size(),
-                            selected < 0 ? "" : entries[static_cast<std::size_t>(selected)]);
-        if (text.empty())
-            return;
-    }
-    showEntries(list, entries, applyEntry(entries, command, selected, text));
+    const auto ask = [&entries](EntryCommand command, const std::string &selected) {
+        const std::string text = askEntryText(comboBox, command, entries.size(), selected);
+        return text.empty() ? std::nullopt : std::optional(text);
+    };
+    return {entries, list, [](const std::string &entry, std::size_t) { return entry; }, ask, {}};
 }
 
 } // namespace
@@ -36,14 +33,13 @@ void buildCbxobj(PropertyDialog &d)
 
     Group entries = addGroup(*columns[1], "combobox", "Combobox");
     QListWidget *list = addListRow(entries.fields, "cbxedit", "");
+    const EntryList<std::string> edited = entriesOf(d, *list);
     addEntryButtons(*entries.contents, "cbbut",
-                    {EntryCommand::New, EntryCommand::Edit, EntryCommand::Insert, EntryCommand::Delete}, *list,
-                    [&d, list](EntryCommand command, int selected) { editEntry(d, *list, command, selected); });
-    d.onLoad([&d, list] { showEntries(*list, d.values.comboEntries, -1); });
+                    {EntryCommand::New, EntryCommand::Edit, EntryCommand::Insert, EntryCommand::Delete}, edited);
+    d.onLoad([edited] { showEntries(edited, -1); });
 
     Group look = addGroup(*columns[1], "look", "Appearance");
     addEntryAppearance(d, look, "cbxedit", true);
-    addTabIndexRow(d, look.fields, "Tab Index:");
 }
 
 } // namespace corvanta

@@ -13,7 +13,9 @@ const char *titleOf(EntryCommand command)
     case EntryCommand::Edit: return "Edit Entry";
     case EntryCommand::Insert: return "Insert Entry";
     case EntryCommand::New:
-    case EntryCommand::Delete: break;
+    case EntryCommand::Delete:
+    case EntryCommand::Up:
+    case EntryCommand::Down: break;
     }
     return "New Entry";
 }

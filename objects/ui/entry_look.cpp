@@ -29,9 +29,14 @@ void addEntryAppearance(PropertyDialog &d, Group &look, const char *listName, bo
         dress(*d.findChild<QListWidget *>(listName), d.values.font, toBytes(d.findChild<QLineEdit *>("col")->text()));
     };
     addColourRow(d, look.fields, redress);
-    addFontButton(d, look.fields, redress);
-    if (alignment)
+    if (alignment) {
         addAlignmentRow(d, look.fields, "Alignment:");
+        addFontButton(d, look.fields, redress);
+        addTabIndexRow(d, look.fields, "Tab Index:");
+    } else {
+        addTabIndexRow(d, look.fields, "&Tab Index:");
+        addFontButton(d, look.fields, redress);
+    }
     d.onLoad(redress);
 }
 

@@ -19,14 +19,6 @@ namespace {
 constexpr std::int16_t newColumnWidth = 1200; // twips
 constexpr int previewHeight = 70;             // pixels
 
-std::vector<std::string> headersOf(const std::vector<GridColumn> &columns)
-{
-    std::vector<std::string> headers;
-    for (const GridColumn &column : columns)
-        headers.push_back(fieldAt(column.descriptor, 0));
-    return headers;
-}
-
 // The preview has one empty column when there are no entries.
 void showPreview(QTableWidget &preview, const std::vector<GridColumn> &columns)
 {
@@ -50,23 +42,19 @@ void takeWidths(const QTableWidget &preview, std::vector<GridColumn> &columns)
     }
 }
 
-void editEntry(PropertyDialog &d, QListWidget &list, QTableWidget &preview, EntryCommand command, int selected)
+EntryList<GridColumn> entriesOf(PropertyDialog &d, QListWidget &list)
 {
     auto &columns = d.values.columns;
-    const bool grows = command == EntryCommand::New || command == EntryCommand::Insert;
-    if (grows && !checkEntryLimit(columns.size(), "grid header", "Grid Properties"))
-        return;
-    GridColumn column{"", newColumnWidth};
-    if (command == EntryCommand::Edit && selected >= 0)
-        column = columns[static_cast<std::size_t>(selected)];
-    if (command != EntryCommand::Delete) {
+    const auto ask = [&columns](EntryCommand command, const GridColumn &selected) -> std::optional<GridColumn> {
+        const bool edits = command == EntryCommand::Edit;
+        if (!edits && !checkEntryLimit(columns.size(), "grid header", "Grid Properties"))
+            return std::nullopt;
+        GridColumn column = edits ? selected : GridColumn{"", newColumnWidth};
         column.descriptor = EditGridColumn(column.descriptor);
-        if (column.descriptor.empty())
-            return;
-    }
-    const int now = applyEntry(columns, command, selected, column);
-    showEntries(list, headersOf(columns), now);
-    showPreview(preview, columns);
+        return column.descriptor.empty() ? std::nullopt : std::optional(column);
+    };
+    return {
+        columns, list, [](const GridColumn &column, std::size_t) { return fieldAt(column.descriptor, 0); }, ask, {}};
 }
 
 QTableWidget *addPreview(PropertyDialog &d, Group &header)
@@ -89,22 +77,21 @@ void buildGrdobj(PropertyDialog &d)
 {
     const auto columns = addColumns(d.contents(), 2);
     addStandardProperties(d, *columns[0]);
-    addActionGroup(d, *columns[0], "&Action:");
+    addActionGroup(d, *columns[0]);
     Group look = addGroup(*columns[0], "look", "Appearance");
     addEntryAppearance(d, look, "grdedit", false);
-    addTabIndexRow(d, look.fields, "&Tab Index:");
 
     Group header = addGroup(*columns[1], "header", "Header");
     QListWidget *list = addListRow(header.fields, "grdedit", "");
     QTableWidget *preview = addPreview(d, header);
-    addEntryButtons(
-        *header.contents, "lbbut", {EntryCommand::New, EntryCommand::Edit, EntryCommand::Insert, EntryCommand::Delete},
-        *list,
-        [&d, list, preview](EntryCommand command, int selected) { editEntry(d, *list, *preview, command, selected); });
-    d.onLoad([&d, list, preview] {
-        showEntries(*list, headersOf(d.values.columns), -1);
+    const EntryList<GridColumn> entries = entriesOf(d, *list);
+    addEntryButtons(*header.contents, "lbbut",
+                    {EntryCommand::New, EntryCommand::Edit, EntryCommand::Insert, EntryCommand::Delete}, entries);
+    QObject::connect(list, &QListWidget::currentRowChanged, preview, [&d, preview](int row) {
         showPreview(*preview, d.values.columns);
+        preview->scrollTo(preview->model()->index(0, row));
     });
+    d.onLoad([entries] { showEntries(entries, -1); });
 }
 
 } // namespace corvanta

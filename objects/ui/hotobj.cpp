@@ -6,8 +6,8 @@ void buildHotobj(PropertyDialog &d)
 {
     addStandardProperties(d, d.contents());
     addActionGroup(d, d.contents());
-    Fields fields = addFields(d.contents());
-    addHoverRow(d, fields);
+    Group look = addGroup(d.contents(), "look", "Appearance");
+    addHoverRow(d, look.fields);
 }
 
 } // namespace corvanta

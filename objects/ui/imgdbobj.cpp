@@ -11,9 +11,9 @@ void buildImgdbobj(PropertyDialog &d)
 
     addBindingGroup(d, *columns[1]);
     addAutoSqlGroup(d, *columns[1], false);
-    Fields fields = addFields(*columns[1], 2);
-    addTabIndexRow(d, fields, "Tab Index:");
-    d.tie(addCheckRow(fields, "readonly", "Read Only"), &PropertyFields::readonly);
+    Group input = addGroup(*columns[1], "imgdbinput", "Input", 2);
+    addTabIndexRow(d, input.fields, "Tab Index:");
+    d.tie(addCheckRow(input.fields, "readonly", "Read Only"), &PropertyFields::readonly);
 }
 
 } // namespace corvanta

@@ -6,9 +6,9 @@ void buildImgobj(PropertyDialog &d)
 {
     addStandardProperties(d, d.contents());
     addActionGroup(d, d.contents());
-    Fields fields = addFields(d.contents());
-    addImageRow(d, fields);
-    addHoverRow(d, fields);
+    Group look = addGroup(d.contents(), "look", "Appearance");
+    addImageRow(d, look.fields);
+    addHoverRow(d, look.fields);
 }
 
 } // namespace corvanta

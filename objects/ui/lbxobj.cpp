@@ -15,28 +15,18 @@ namespace {
 
 constexpr TextEntries listBox{"list box", "List Box Properties", "List box entry:"};
 
-std::vector<std::string> textsOf(const std::vector<ListBoxEntry> &entries)
-{
-    std::vector<std::string> texts;
-    for (const ListBoxEntry &entry : entries)
-        texts.push_back(entry.text);
-    return texts;
-}
-
-void editEntry(PropertyDialog &d, QListWidget &list, EntryCommand command, int selected)
+// A new entry has no action; an edited one keeps its own.
+EntryList<ListBoxEntry> entriesOf(PropertyDialog &d, QListWidget &list)
 {
     auto &entries = d.values.listEntries;
-    const ListBoxEntry current = selected < 0 ? ListBoxEntry() : entries[static_cast<std::size_t>(selected)];
-    ListBoxEntry entry{"", actionKind(action::none).actionTemplate};
-    if (command == EntryCommand::Edit)
-        entry.action = current.action;
-    if (command != EntryCommand::Delete) {
-        entry.text = askEntryText(listBox, command, entries.size(), current.text);
-        if (entry.text.empty())
-            return;
-    }
-    const int now = applyEntry(entries, command, selected, entry);
-    showEntries(list, textsOf(entries), now);
+    const auto ask = [&entries](EntryCommand command, const ListBoxEntry &selected) -> std::optional<ListBoxEntry> {
+        const std::string text = askEntryText(listBox, command, entries.size(), selected.text);
+        if (text.empty())
+            return std::nullopt;
+        return ListBoxEntry{text,
+                            command == EntryCommand::Edit ? selected.action : actionKind(action::none).actionTemplate};
+    };
+    return {entries, list, [](const ListBoxEntry &entry, std::size_t) { return entry.text; }, ask, {}};
 }
 
 // The action of the selected entry; the object's own action stays as it is.
@@ -79,15 +69,14 @@ void buildLbxobj(PropertyDialog &d)
     addStandardProperties(d, *columns[0]);
     Group look = addGroup(*columns[0], "look", "Appearance");
     addEntryAppearance(d, look, "lbxedit", true);
-    addTabIndexRow(d, look.fields, "Tab Index:");
 
     Group entries = addGroup(*columns[1], "listbox", "Listbox");
     QListWidget *list = addListRow(entries.fields, "lbxedit", "");
+    const EntryList<ListBoxEntry> edited = entriesOf(d, *list);
     addEntryButtons(*entries.contents, "lbbut",
-                    {EntryCommand::New, EntryCommand::Edit, EntryCommand::Insert, EntryCommand::Delete}, *list,
-                    [&d, list](EntryCommand command, int selected) { editEntry(d, *list, command, selected); });
+                    {EntryCommand::New, EntryCommand::Edit, EntryCommand::Insert, EntryCommand::Delete}, edited);
     addEntryAction(d, entries, *list);
-    d.onLoad([&d, list] { showEntries(*list, textsOf(d.values.listEntries), -1); });
+    d.onLoad([edited] { showEntries(edited, -1); });
 }
 
 } // namespace corvanta

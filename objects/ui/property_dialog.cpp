@@ -86,6 +86,8 @@ void PropertyDialog::confirm()
         return accept();
     if (auto *entries = findChild<QListWidget *>(); entries && confirmation.entry >= 0)
         entries->setCurrentRow(confirmation.entry);
+    if (refused)
+        refused(confirmation);
     returnToField(*this, confirmation.focus);
 }
 

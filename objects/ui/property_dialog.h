@@ -39,6 +39,9 @@ public:
     void onLoad(std::function<void()> load) { loads.push_back(std::move(load)); }
     void onTake(std::function<void()> take) { takes.push_back(std::move(take)); }
 
+    // Runs after a message about an entry has selected it, before the focus goes to its field.
+    void onRefused(std::function<void(const Confirmation &)> shown) { refused = std::move(shown); }
+
     PropertyFields values;
 
 private:
@@ -50,12 +53,12 @@ private:
     Kind objectKind;
     QVBoxLayout *column;
     std::vector<std::function<void()>> loads, takes;
+    std::function<void(const Confirmation &)> refused;
 };
 
 // Groups that several dialogs share.
 void addStandardProperties(PropertyDialog &d, QBoxLayout &layout, bool placement = true);
-// The action; without a label of its own the choice has the frame's caption, "&Action".
-void addActionGroup(PropertyDialog &d, QBoxLayout &layout, const QString &label = {});
+void addActionGroup(PropertyDialog &d, QBoxLayout &layout);
 // Name, data column and update key; the data column is hidden on pages of the type "Menu". The first two take dragged
 // columns; droppedOnColumn runs when the data column has taken one.
 void addBindingGroup(PropertyDialog &d, QBoxLayout &layout,

@@ -35,10 +35,10 @@ void addStandardProperties(PropertyDialog &d, QBoxLayout &layout, bool placement
     d.tie(addTextRow(group.fields, "sptext", "&Status Panel Text:"), &CommonFields::sptext);
 }
 
-void addActionGroup(PropertyDialog &d, QBoxLayout &layout, const QString &label)
+void addActionGroup(PropertyDialog &d, QBoxLayout &layout)
 {
-    Group group = addGroup(layout, "action", label.isEmpty() ? "&Action" : "Action");
-    const ActionControls controls = addActionControls(group.fields, label);
+    Group group = addGroup(layout, "action", "Action");
+    const ActionControls controls = addActionControls(group.fields, "&Action:");
     d.onLoad([controls] { FillActionChoice(controls, ActionCode(workingAction())); });
     d.onTake([&d] { d.values.action = workingAction(); });
 }

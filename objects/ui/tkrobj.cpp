@@ -6,7 +6,7 @@ void buildTkrobj(PropertyDialog &d)
 {
     const auto columns = addColumns(d.contents(), 2);
     addStandardProperties(d, *columns[0]);
-    addActionGroup(d, *columns[1]);
+    addActionGroup(d, *columns[0]);
 
     Group look = addGroup(*columns[1], "look", "Appearance");
     d.tie(addTextRow(look.fields, "cap", "&Caption:"), &PropertyFields::cap);

@@ -29,10 +29,10 @@ PageDialog::PageDialog() : values(LoadPageProperties(page()))
     addBackground(*columns[0]);
     addSound(*columns[0]);
     addPageType(*columns[0]);
-    addPlainGroup(*columns[0], "caption", "Caption", "pgcaption", &PagePropertyFields::pgcaption);
-    addPlainGroup(*columns[0], "key", "&Key Required:", "keyreq", &PagePropertyFields::keyreq);
+    addDatabase(*columns[0]);
+    addPlainGroup(*columns[1], "caption", "Caption", "pgcaption", &PagePropertyFields::pgcaption);
+    addPlainGroup(*columns[1], "key", "&Key Required:", "keyreq", &PagePropertyFields::keyreq);
     addConnection(*columns[1]);
-    addDatabase(*columns[1]);
     addFlags(*columns[1]);
     addButtons(*this, {{"ok", "OK", [this] { confirm(); }},
                        {"cancbut", "Cancel", [this] { reject(); }},

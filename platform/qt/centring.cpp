@@ -50,7 +50,11 @@ public:
         });
     }
 
-    QSize sizeHint() const override { return widget()->sizeHint() + QSize(verticalScrollBar()->sizeHint().width(), 0); }
+    QSize sizeHint() const override
+    {
+        return widget()->sizeHint() +
+               QSize(verticalScrollBar()->sizeHint().width(), horizontalScrollBar()->sizeHint().height());
+    }
 };
 
 // The first layout in a dialog's column holds its fields.
@@ -143,9 +147,11 @@ void CentreDialog(QDialog &dialog, QWidget *owner)
     if (dialog.windowState() & (Qt::WindowMinimized | Qt::WindowMaximized | Qt::WindowFullScreen))
         return;
     dialog.ensurePolished();
+    if (dialog.layout())
+        alignFields(*dialog.layout());
+    scrollWithoutRoom(dialog);
     if (!dialog.testAttribute(Qt::WA_Resized))
         dialog.resize(dialog.sizeHint());
-    scrollWithoutRoom(dialog);
     centre(dialog, owner);
     new StaysOnScreen(dialog);
     if (!dialog.parentWidget())

@@ -16,6 +16,7 @@ class QGridLayout;
 class QGroupBox;
 class QHBoxLayout;
 class QLabel;
+class QLayout;
 class QLineEdit;
 class QListWidget;
 class QPlainTextEdit;
@@ -31,9 +32,10 @@ namespace corvanta {
 double twipsPerPixelX();
 double twipsPerPixelY();
 
-// Places a dialog with its frame over the middle of its owner, or of its screen without an owner or with a minimised
-// one, and in front of the window that the author works in. A dialog without room on the screen scrolls its fields,
-// also when it grows later. Nothing happens unless the dialog is in the normal window state. Called before it is shown.
+// Places a dialog with its frame, its fields aligned, over the middle of its owner, or of its screen without an owner
+// or with a minimised one, and in front of the window that the author works in. A dialog without room on the screen
+// scrolls its fields, also when it grows later. Nothing happens unless the dialog is in the normal window state. Called
+// before it is shown.
 void CentreDialog(QDialog &dialog, QWidget *owner = nullptr);
 
 // What the window system puts round a window, in pixels; of one that it has not framed yet, what the program's others
@@ -45,6 +47,9 @@ void TrimWindowMenu(QWidget &dialog, int mode);
 
 // Starts a dialog: its objectName, caption and window menu (mode 1), and the column that takes its contents.
 QVBoxLayout *startDialog(QDialog &dialog, const char *name, const QString &caption);
+
+// Gives the labels of each column of a layout one width, so that the fields beside them begin on one line.
+void alignFields(const QLayout &layout);
 
 // Two or more columns side by side, for a dialog that would grow too tall.
 std::vector<QVBoxLayout *> addColumns(QBoxLayout &layout, int count);

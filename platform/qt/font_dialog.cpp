@@ -33,11 +33,11 @@ QString sizeText(float points) { return QString::number(static_cast<double>(poin
 
 void addFace(QBoxLayout &layout, FontControls &controls)
 {
-    Fields fields = addFields(layout);
-    controls.name = new QFontComboBox(layout.parentWidget());
-    addWidgetRow(fields, *controls.name, "fontname", "&Font:");
+    Group face = addGroup(layout, "face", "Face");
+    controls.name = new QFontComboBox(face.box);
+    addWidgetRow(face.fields, *controls.name, "fontname", "&Font:");
     controls.size =
-        addComboRow(fields, "fontsize",
+        addComboRow(face.fields, "fontsize",
                     "Si&ze:", {"8", "9", "10", "11", "12", "14", "16", "18", "20", "22", "24", "28", "36", "48", "72"});
     controls.size->setEditable(true);
     for (QComboBox *combo : {controls.name, controls.size})

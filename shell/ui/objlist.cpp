@@ -83,6 +83,8 @@ Objlist::Objlist()
     propbut = buttons[1];
     delbut = buttons[2];
     connect(olist, &QTreeWidget::itemSelectionChanged, this, [this] {
+        if (selectedRow() < 0 && olist->currentItem()) // a click with Ctrl on the current row
+            return olist->currentItem()->setSelected(true);
         chooseListedObject(static_cast<std::int16_t>(selectedRow()));
         refreshButtons();
     });
@@ -116,6 +118,8 @@ void Objlist::follow()
             current = olist->topLevelItem(row);
     if (current != olist->currentItem() || !current)
         olist->setCurrentItem(current);
+    if (current)
+        current->setSelected(true);
     refreshButtons();
 }
 

@@ -4,8 +4,14 @@
 #include "tests/windows/objects_page.h"
 
 #include <QAccessible>
+#include <QGroupBox>
 #include <QLabel>
 #include <QListWidget>
+
+#include <algorithm>
+#include <map>
+#include <ranges>
+#include <set>
 
 namespace corvanta {
 namespace {
@@ -27,9 +33,39 @@ void expectReadable(const QWidget &dialog)
         EXPECT_GE(w->width(), w->minimumSizeHint().width()) << qPrintable(dialog.objectName() + ' ' + w->objectName());
         EXPECT_GE(w->height(), w->minimumSizeHint().height())
             << qPrintable(dialog.objectName() + ' ' + w->objectName());
-        EXPECT_TRUE(w->window()->rect().contains(QRect(w->mapTo(w->window(), QPoint()), w->size())))
+        EXPECT_TRUE(dialog.findChild<QWidget *>("scrolled") ||
+                    w->window()->rect().contains(QRect(w->mapTo(w->window(), QPoint()), w->size())))
             << qPrintable(w->objectName());
     }
+}
+
+QRect inDialog(const QWidget &w) { return {w.mapTo(w.window(), QPoint()), w.size()}; }
+
+// Tab goes down the frames of a column, then to the next one. In a column the fields beside labels begin at one place,
+// and none leaves a third of the height empty.
+void expectOneLook(const QWidget &dialog)
+{
+    std::map<int, std::set<int>> starts; // by the left edge of the frames
+    std::map<int, int> bottoms;
+    for (const auto *frame : dialog.findChildren<QGroupBox *>(Qt::FindDirectChildrenOnly)) {
+        const int left = inDialog(*frame).left();
+        if (frame->isVisible())
+            bottoms[left] = std::max(bottoms[left], inDialog(*frame).bottom());
+        for (const auto *label : frame->findChildren<QLabel *>())
+            if (label->isVisible() && label->buddy() && label->x() < 20 && label->buddy()->x() > label->x())
+                starts[left].insert(inDialog(*label->buddy()).left());
+    }
+    for (const auto &[left, places] : starts)
+        EXPECT_EQ(places.size(), 1U) << qPrintable(dialog.objectName()) << " at " << left;
+    for (const auto &[left, bottom] : bottoms)
+        EXPECT_GT(bottom * 3, std::ranges::max(std::views::values(bottoms)) * 2) << qPrintable(dialog.objectName());
+    std::pair<int, int> before;
+    for (const auto *w = dialog.nextInFocusChain(); w != &dialog; w = w->nextInFocusChain())
+        if (const auto *frame = qobject_cast<const QGroupBox *>(w->parent()); frame && w->isVisible()) {
+            const std::pair place(inDialog(*frame).left(), inDialog(*frame).top());
+            EXPECT_LE(before, place) << qPrintable(dialog.objectName() + ' ' + w->objectName());
+            before = place;
+        }
 }
 
 // Shows every dialog with some content at a font size; with CORVANTA_PICTURES, a folder, a picture of each goes there.
@@ -47,6 +83,7 @@ protected:
     {
         QCoreApplication::processEvents();
         expectReadable(dialog);
+        expectOneLook(dialog);
         const QByteArray folder = qgetenv("CORVANTA_PICTURES");
         if (!folder.isEmpty())
             dialog.grab().save(QString("%1/%2-%3.png").arg(QString(folder), dialog.objectName()).arg(GetParam()));

@@ -8,6 +8,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QTableWidget>
+#include <QTest>
 
 namespace corvanta {
 namespace {
@@ -191,6 +192,72 @@ TEST_F(PropertyDialogs, GridColumnsAndTheirWidths)
         press(d, "ok");
     });
     EXPECT_EQ(gridColumnCount(page()), 0U);
+}
+
+TEST_F(PropertyDialogs, KeysEditEntriesWithWhatBelongsToThem)
+{
+    ScriptedAsking asking;
+    asking.expectText("List box entry:\tInsert Entry\t", "x");
+    asking.expectText("List box entry:\tEdit Entry\tx", "y");
+    const std::int16_t box = addObject(Kind::ListBox), grid = addObject(Kind::Grid);
+    const std::string reset = encodeAction({action::resetForm, {}});
+    page().lbxextras[1] = {{"a", ""}, {"b", reset}, {"c", ""}};
+    withDialog(box, [](QDialog &d) {
+        auto &list = find<QListWidget>(d, "lbxedit");
+        list.setCurrentRow(1);
+        for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Down}) // the second finds no place
+            QTest::keyClick(&list, key, Qt::AltModifier);
+        QTest::keyClick(&list, Qt::Key_Up);
+        QTest::keyClick(&list, Qt::Key_Delete);
+        EXPECT_EQ(list.currentItem()->text(), "b");
+        EXPECT_EQ(find<QComboBox>(d, "actlist").currentText(), "Reset Form");
+        QTest::keyClick(&list, Qt::Key_Up, Qt::AltModifier);
+        for (const Qt::Key key : {Qt::Key_Insert, Qt::Key_F2})
+            QTest::keyClick(&list, key);
+        press(d, "ok");
+    });
+    const auto &entries = page().lbxextras[1];
+    ASSERT_EQ(entries.size(), 3U);
+    EXPECT_EQ(entries[0].text + entries[1].text + entries[2].text, "yba");
+    EXPECT_EQ(entries[1].action, reset);
+
+    page().gridcolumns = {{"a\tT.a", 6000}, {"b\tT.b", 9000}, {"c\tT.c", 4500}, {}};
+    withDialog(grid, [](QDialog &d) {
+        auto &list = find<QListWidget>(d, "grdedit");
+        const auto &preview = find<QTableWidget>(d, "grd");
+        list.setCurrentRow(0);
+        QTest::keyClick(&list, Qt::Key_Down, Qt::AltModifier);
+        QTest::keyClick(&list, Qt::Key_Down, Qt::AltModifier);
+        EXPECT_EQ(preview.columnWidth(2), 400);
+        EXPECT_LE(preview.columnViewportPosition(2), preview.viewport()->width() - 100) << "the preview follows";
+        press(d, "ok");
+    });
+    EXPECT_EQ(page().gridcolumns[2].descriptor, "a\tT.a");
+    EXPECT_EQ(page().gridcolumns[2].width, 6000);
+}
+
+TEST_F(PropertyDialogs, AMessageAboutAFrameShowsItsFieldAlsoOfAStationaryAnimation)
+{
+    ScriptedAsking asking;
+    asking.expectMessage("Invalid \"Top\" for frame 2.", "Properties Error");
+    const std::int16_t index = addObject(Kind::Animation);
+    withDialog(index, [](QDialog &d) {
+        for (const char *top : {"1", "9999"}) {
+            press(d, "lbbut0");
+            type(d, "ptop", top);
+        }
+        find<QCheckBox>(d, "frozen").setChecked(true);
+        auto &list = find<QListWidget>(d, "aniedit");
+        list.setCurrentRow(0);
+        press(d, "ok");
+        EXPECT_EQ(list.currentRow(), 1);
+        auto &top = find<QLineEdit>(d, "ptop");
+        EXPECT_EQ(d.focusWidget(), &top);
+        EXPECT_EQ(top.selectedText(), "9999");
+        top.setText("5");
+        press(d, "ok");
+    });
+    EXPECT_EQ(framesOf(page(), index).at(1).top, 5);
 }
 
 TEST_F(PropertyDialogs, AnimationFramesKeepTheirFields)

@@ -112,6 +112,8 @@ TEST_F(ShellDialogs, ObjectListChoosesOpensAndDeletes)
 
     olist.setCurrentItem(olist.topLevelItem(3));
     EXPECT_EQ(editing().curobj, 3);
+    QTest::keyClick(&olist, Qt::Key_Space, Qt::ControlModifier);
+    EXPECT_TRUE(olist.topLevelItem(3)->isSelected()) << "the current row stays selected";
     press(*list, "delbut");
     EXPECT_EQ(objectCount(page()), 39);
     EXPECT_EQ(editing().curobj, noObject);
