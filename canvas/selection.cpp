@@ -87,6 +87,18 @@ void selectAllObjects()
         setCurrentObject(0);
 }
 
+void chooseObjects(const std::vector<std::int16_t> &indices)
+{
+    clearMultiSelection();
+    for (const std::int16_t index : indices)
+        selectObject(index); // each in front of the one before
+    selectObject(indices.front());
+    if (indices.size() == 1)
+        return showTrackers();
+    for (const std::int16_t index : indices)
+        addToMultiSelection(index);
+}
+
 void clearSelection()
 {
     clearMultiSelection();

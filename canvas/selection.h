@@ -2,6 +2,8 @@
 
 #include "canvas/events.h"
 
+#include <vector>
+
 // The current object (curobj) and the multi-selection (selslot of the records, multcount) of the process-wide
 // page. Indices out of range are ignored where nothing else is said.
 namespace corvanta {
@@ -26,6 +28,9 @@ void removeFromMultiSelection(std::int16_t index);
 void clearMultiSelection();
 // All objects become the multi-selection; the first is current when none was.
 void selectAllObjects();
+// Objects, at least one, become the multi-selection, in front of all others; the first is current. One alone is only
+// current.
+void chooseObjects(const std::vector<std::int16_t> &indices);
 
 // No object is current, and none is in the multi-selection.
 void clearSelection();

@@ -163,7 +163,7 @@ std::vector<TableFacts> tableFacts()
 {
     std::vector<TableFacts> facts;
     for (const OdbcTable &t : library().tables.entries)
-        facts.push_back({t.name.listed.shown, t.name.dropped, t.view});
+        facts.push_back({t.name.listed.shown, t.name.dropped, t.firstRows, t.view});
     return facts;
 }
 

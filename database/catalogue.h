@@ -37,10 +37,12 @@ std::int32_t GetNextColumn(char *name, std::int16_t &type, std::int16_t &length)
 
 // What else is known of the names of the last listing, parallel to them. Texts shown are UTF-8.
 struct TableFacts {
-    std::string shown;   // the name as people read it
-    std::string dropped; // the name in SQL, in the code page; empty when no text of the code page reaches the table
+    std::string shown;     // the name as people read it
+    std::string dropped;   // the name in SQL, in the code page; empty when no text of the code page reaches the table
+    std::string firstRows; // the statement that reads its first rows, with the table's true name
     bool view = false;
 };
+inline constexpr int firstRowCount = 20;
 struct ColumnFacts {
     std::string type; // the driver's whole type
     bool key = false; // belongs to the primary key

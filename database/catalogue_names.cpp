@@ -127,7 +127,7 @@ std::string inSql(const std::u16string &name, const NameRules &rules)
     if (!spellable(name))
         return escaped(name);
     const bool bare = isPlain(name, rules.folding) || rules.quote.empty() || rules.quote == u" ";
-    return bytesOfUtf16(bare ? name : rules.quote + doubled(name, rules.quote) + rules.quote);
+    return bytesOfUtf16(bare ? name : quotedName(name, rules.quote));
 }
 
 // Generated statements put double quotes around what holds a blank.
@@ -169,6 +169,18 @@ std::vector<TableName> tableNames(const std::vector<DriverTable> &tables, const 
         names.push_back({listed[i], droppedText(parts, rules)});
     }
     return names;
+}
+
+std::u16string trueName(const DriverTable &table, const NameRules &rules)
+{
+    const std::u16string mark = rules.quote == u" " ? std::u16string() : rules.quote;
+    const std::u16string qualifier = table.qualifier.empty() ? u"" : quotedName(table.qualifier, mark) + u".";
+    return qualifier + quotedName(table.name, mark);
+}
+
+std::u16string quotedName(const std::u16string &name, const std::u16string &mark)
+{
+    return mark + doubled(name, mark) + mark;
 }
 
 std::vector<ListedName> listedNames(const std::vector<std::u16string> &spellings)

@@ -39,6 +39,10 @@ struct TableName {
 // or the driver's spelling stands behind them.
 std::vector<TableName> tableNames(const std::vector<DriverTable> &tables, const NameRules &rules);
 
+// The name in marks, with its qualifier, whatever it is made of.
+std::u16string trueName(const DriverTable &table, const NameRules &rules);
+std::u16string quotedName(const std::u16string &name, const std::u16string &mark);
+
 // Parallel to the spellings, which are unlike each other.
 std::vector<ListedName> listedNames(const std::vector<std::u16string> &spellings);
 

@@ -1,3 +1,4 @@
+#include "database/catalogue.h"
 #include "database/catalogue_handles.h"
 
 #include "platform/codepage.h"
@@ -132,19 +133,11 @@ std::vector<ToldColumn> toldColumns(SQLHDBC connection, const OdbcTable &table, 
     return columns;
 }
 
-std::u16string quoted(const std::u16string &name)
-{
-    std::u16string text = u"\"";
-    for (char16_t unit : name)
-        text += unit == u'"' ? u"\"\"" : std::u16string(1, unit);
-    return text + u'"';
-}
-
 // SQLite's driver tells a scale or nothing as the column size; of a prepared statement it tells the size.
 void describeSizes(SQLHDBC connection, const OdbcTable &table, std::vector<ToldColumn> &columns)
 {
     OdbcHandle statement = newStatement(connection);
-    std::u16string select = u"Select * From " + quoted(table.driverName);
+    std::u16string select = u"Select * From " + quotedName(table.driverName, u"\"");
     SQLSMALLINT count = 0;
     if (!statement || !SQL_SUCCEEDED(SQLPrepareW(statement.get(), odbcText(select), SQL_NTS)) ||
         !SQL_SUCCEEDED(SQLNumResultCols(statement.get(), &count)) || count != static_cast<int>(columns.size()))
@@ -171,6 +164,14 @@ std::vector<std::u16string> keyColumns(SQLHDBC connection, const OdbcTable &tabl
     while (SQL_SUCCEEDED(SQLFetch(statement.get())))
         names.push_back(textAt(statement.get(), 4));
     return names;
+}
+
+// Others are only told how many rows are wanted.
+bool takesLimit(SQLHDBC connection)
+{
+    const std::u16string database = connectionText(connection, SQL_DBMS_NAME);
+    return isSqlite(connection) || database.starts_with(u"PostgreSQL") || database.starts_with(u"MariaDB") ||
+           database.starts_with(u"MySQL");
 }
 
 // "varchar(40)", "numeric(10,2)", "integer"
@@ -211,9 +212,14 @@ std::vector<OdbcTable> odbcTables(void *connection)
     std::vector<DriverTable> names;
     for (const OdbcTable &table : tables) // without a catalogue of the connection's own it tells the tables apart
         names.push_back({catalogue.empty() && table.schema.empty() ? table.catalogue : table.schema, table.driverName});
-    const std::vector<TableName> given = tableNames(names, nameRules(connection));
-    for (std::size_t i = 0; i < tables.size(); ++i)
+    const NameRules rules = nameRules(connection);
+    const std::vector<TableName> given = tableNames(names, rules);
+    const bool limits = takesLimit(connection);
+    for (std::size_t i = 0; i < tables.size(); ++i) {
         tables[i].name = given[i];
+        tables[i].firstRows = "Select * From " + utf8FromUtf16(trueName(names[i], rules)) +
+                              (limits ? " Limit " + std::to_string(firstRowCount) : "");
+    }
     return tables;
 }
 

@@ -16,6 +16,7 @@ using OdbcHandle = std::unique_ptr<void, void (*)(void *)>;
 struct OdbcTable {
     TableName name;
     bool view = false;
+    std::string firstRows;                        // the statement that reads them
     std::u16string driverName, schema, catalogue; // as the driver spells them
 };
 

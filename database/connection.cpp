@@ -17,6 +17,7 @@ void clearColumns(Connection &c)
     c.columns.clear();
     c.columnTypes.clear();
     c.columnLengths.clear();
+    c.columnFacts.clear();
     c.columnTypes.reserve(firstColumnRoom);
     c.columnLengths.reserve(firstColumnRoom);
 }
@@ -65,6 +66,7 @@ void ListTables(Connection &c)
     for (std::int32_t status = GetFirstTableName(c.source.c_str(), c.user.c_str(), c.password.c_str(), name);
          status == 0; status = GetNextTableName(name))
         c.tables.emplace_back(name);
+    c.tableFacts = tableFacts();
 }
 
 void ListColumns(Connection &c, int table)
@@ -82,6 +84,7 @@ void ListColumns(Connection &c, int table)
         c.columnTypes.push_back(type);
         c.columnLengths.push_back(length);
     }
+    c.columnFacts = columnFacts();
 }
 
 void listColumnsAfterKey(Connection &c, int table)
@@ -90,11 +93,17 @@ void listColumnsAfterKey(Connection &c, int table)
         ListColumns(c, table);
 }
 
+std::string droppedTable(const Connection &c, int place)
+{
+    return place < 0 || place >= static_cast<int>(c.tableFacts.size()) ? "" : c.tableFacts[place].dropped;
+}
+
 std::optional<DroppedColumn> columnAt(const Connection &c, int place)
 {
-    if (place < 0 || place >= static_cast<int>(c.columns.size()) || c.listedTable < 0)
+    const std::string table = droppedTable(c, c.listedTable);
+    if (place < 0 || place >= static_cast<int>(c.columns.size()) || table.empty())
         return std::nullopt;
-    return DroppedColumn{c.tables[c.listedTable], c.columns[place], c.columnTypes[place], c.columnLengths[place]};
+    return DroppedColumn{table, c.columns[place], c.columnTypes[place], c.columnLengths[place]};
 }
 
 std::string qualifiedName(const DroppedColumn &column) { return column.table + "." + column.name; }

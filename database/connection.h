@@ -1,5 +1,6 @@
 #pragma once
 
+#include "database/catalogue.h"
 #include "document/page.h"
 
 #include <array>
@@ -38,6 +39,8 @@ struct Connection {
     std::vector<std::int16_t> columnTypes; // parallel to columns: 0 String, 1 Integer, 2 Real, 3 Date, 4 Time,
                                            // 5 Currency, 6 Numeric
     std::vector<std::int16_t> columnLengths;
+    std::vector<TableFacts> tableFacts;        // parallel to tables
+    std::vector<ColumnFacts> columnFacts;      // parallel to columns
     std::size_t pressedButton = textBoxButton; // the chosen object kind
 };
 
@@ -65,12 +68,19 @@ struct DroppedColumn {
     std::int16_t type = 0, length = 0;
 };
 
-// The listed column at a place of the list; none outside it.
+// A listed table's name in SQL, which is what is dragged of it; empty outside the list, and when there is no such name
+// in the code page.
+std::string droppedTable(const Connection &c, int place);
+
+// The listed column at a place of the list; none outside it, and none of a table that has no name in SQL.
 std::optional<DroppedColumn> columnAt(const Connection &c, int place);
 
 // A column as the payload of a drag, and back: table, name, type and length, tab-separated.
 std::string dragOfColumn(const DroppedColumn &column);
 std::optional<DroppedColumn> columnOfDrag(std::string_view payload);
+// Several columns, one a line. A payload of which one line is no column gives none.
+std::string dragOfColumns(const std::vector<DroppedColumn> &columns);
+std::vector<DroppedColumn> columnsOfDrag(std::string_view payload);
 
 // What a data column field takes: table, full stop, column, as in orders.amount.
 std::string qualifiedName(const DroppedColumn &column);

@@ -114,18 +114,6 @@ void moveTo(const std::vector<std::int16_t> &pasted, Point corner)
     }
 }
 
-void choose(const std::vector<std::int16_t> &pasted)
-{
-    clearMultiSelection();
-    for (const std::int16_t index : pasted)
-        selectObject(index); // each in front of the one before
-    selectObject(pasted.front());
-    if (pasted.size() == 1)
-        return showTrackers();
-    for (const std::int16_t index : pasted)
-        addToMultiSelection(index);
-}
-
 // One edit. Further is the distance in pixels from the places that the objects had.
 void appendEdited(const std::string &clip, const std::string &act, int further, std::optional<Point> at)
 {
@@ -138,7 +126,7 @@ void appendEdited(const std::string &clip, const std::string &act, int further, 
     moveTo(pasted, at.value_or(Point{bounds.left + further, bounds.top + further}));
     for (const std::int16_t index : pasted)
         LoadObjectFiles(index);
-    choose(pasted);
+    chooseObjects(pasted);
     pageEdited(act + " " + objectsName(page(), pasted));
 }
 

@@ -3,6 +3,7 @@
 #include "actions/action_kinds.h"
 #include "canvas/selection.h"
 #include "database/catalogue.h"
+#include "database/table_preview.h"
 #include "document/events.h"
 #include "document/kinds.h"
 #include "document/objects.h"
@@ -183,6 +184,7 @@ void endSession()
     showHelp(HelpCommand::Quit);
     if (pageMenuMarks().odbcToolbar)
         markOdbcToolbar(false);
+    endTablePreviews();
     OdbcNameEndDll();
     tell(sessionSteps().unloadCanvas);
     showingCanvas.disconnect();

@@ -3,7 +3,9 @@
 #include "database/connection.h"
 #include "database/ui/drag_source.h"
 #include "database/ui/kind_buttons.h"
+#include "database/ui/name_list.h"
 #include "database/ui/seldsn.h"
+#include "database/ui/tblrows.h"
 #include "platform/qt/dialogs.h"
 #include "platform/qt/text.h"
 
@@ -19,6 +21,8 @@
 #include <QVBoxLayout>
 #include <QWindow>
 
+#include <algorithm>
+
 namespace corvanta {
 
 namespace {
@@ -30,11 +34,38 @@ void showWaitPointer()
     QTimer::singleShot(0, qApp, [] { QApplication::restoreOverrideCursor(); });
 }
 
-void fill(QListWidget &list, const std::vector<std::string> &names)
+QString fromText(const std::string &utf8) { return QString::fromStdString(utf8); }
+
+constexpr const char *inputTypes[] = {"String", "Integer", "Real", "Date", "Time", "Currency", "Numeric"};
+
+std::vector<NameRow> tableRows(const Connection &c)
 {
-    list.clear();
-    for (const std::string &name : names)
-        list.addItem(toQString(name));
+    std::vector<NameRow> rows;
+    for (const TableFacts &table : c.tableFacts) {
+        const QString what = table.view ? QStringLiteral("view") : QString(), shown = fromText(table.shown);
+        const QString inSql = table.dropped.empty()
+                                  ? QStringLiteral("The code page cannot spell it: it cannot be dragged.")
+                                  : QStringLiteral("In SQL: ") + toQString(table.dropped);
+        rows.push_back(
+            {shown, what, shown + (table.view ? QStringLiteral(", a view\n") : QStringLiteral("\n")) + inSql});
+    }
+    return rows;
+}
+
+std::vector<NameRow> columnRows(const Connection &c)
+{
+    std::vector<NameRow> rows;
+    for (std::size_t i = 0; i < c.columns.size() && i < c.columnFacts.size(); ++i) {
+        const ColumnFacts &facts = c.columnFacts[i];
+        const QString name = toQString(c.columns[i]), type = fromText(facts.type);
+        QString tip = name + '\n' + type + QStringLiteral("\nInput type ") +
+                      QLatin1String(inputTypes[std::clamp<std::size_t>(c.columnTypes[i], 0, 6)]);
+        if (c.columnTypes[i] == 0)
+            tip += QStringLiteral(", length %1").arg(c.columnLengths[i]);
+        rows.push_back(
+            {name, type, tip + (facts.key ? QStringLiteral("\nBelongs to the primary key") : QString()), facts.key});
+    }
+    return rows;
 }
 
 std::optional<DragOffer> offerOf(const std::string &payload, const QString &shown, const QWidget &source)
@@ -77,15 +108,21 @@ void Odbcdbs::addSource(QVBoxLayout &layout)
 void Odbcdbs::addTables(QVBoxLayout &layout)
 {
     Group group = addGroup(layout, "table", "Table");
+    filter = addNameFilter(group.fields, "dbsfilter", QStringLiteral("Filter tables"));
+    tblrows = addButtonBeside(group.fields, "rowsbut", "Rows");
+    tblrows->setToolTip(QStringLiteral("Shows the first rows of the table"));
     dbslist = addListRow(group.fields, "dbslist", "");
+    prepareNameList(*dbslist);
     dbslist->installEventFilter(this);
     // On the press: a drag of a table lists its columns too.
     connect(dbslist, &QListWidget::itemPressed, this, [this] { tableClicked(); });
+    connect(dbslist, &QListWidget::itemSelectionChanged, this, [this] { enableRows(); });
+    connect(filter, &QLineEdit::textChanged, this, [this] { filterNames(*filter, *dbslist); });
+    connect(tblrows, &QPushButton::clicked, this,
+            [this] { showTableRows(connection(), selectedRow(*dbslist), *this); });
     makeDragSource(*dbslist->viewport(), "dbs", [this] {
         const int row = selectedRow(*dbslist);
-        return row < 0
-                   ? std::nullopt
-                   : offerOf(connection().tables[static_cast<std::size_t>(row)], dbslist->item(row)->text(), *dbslist);
+        return row < 0 ? std::nullopt : offerOf(droppedTable(connection(), row), dbslist->item(row)->text(), *dbslist);
     });
 }
 
@@ -93,12 +130,34 @@ void Odbcdbs::addColumns(QVBoxLayout &layout)
 {
     Group group = addGroup(layout, "field", "Field");
     fldlist = addListRow(group.fields, "fldlist", "");
+    prepareNameList(*fldlist);
+    fldlist->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    connect(fldlist, &QListWidget::itemDoubleClicked, this, [this] { placeChosen(); });
     makeDragSource(*fldlist->viewport(), "fld", [this] {
-        const int row = selectedRow(*fldlist);
-        const auto column = columnAt(connection(), row);
-        return column ? offerOf(dragOfColumn(*column), fldlist->item(row)->text(), *fldlist) : std::nullopt;
+        const std::vector<DroppedColumn> columns = chosenColumns();
+        const QString shown =
+            columns.size() == 1 ? toQString(columns.front().name) : QStringLiteral("%1 columns").arg(columns.size());
+        return offerOf(dragOfColumns(columns), shown, *fldlist);
     });
 }
+
+std::vector<DroppedColumn> Odbcdbs::chosenColumns() const
+{
+    std::vector<DroppedColumn> columns;
+    for (int row = 0; row < fldlist->count(); ++row)
+        if (const auto column = fldlist->item(row)->isSelected() ? columnAt(connection(), row) : std::nullopt)
+            columns.push_back(*column);
+    return columns;
+}
+
+void Odbcdbs::placeChosen()
+{
+    const std::vector<DroppedColumn> columns = chosenColumns();
+    if (placed && !columns.empty())
+        placed(columns);
+}
+
+void Odbcdbs::enableRows() { tblrows->setEnabled(selectedRow(*dbslist) >= 0); }
 
 // Every part of the window tells where the pointer is.
 void Odbcdbs::watchPointer()
@@ -117,6 +176,13 @@ bool Odbcdbs::eventFilter(QObject *watched, QEvent *event)
         kinds->pointerMoved(static_cast<QMouseEvent *>(event)->globalPosition().toPoint());
     if (watched == dbslist && event->type() == QEvent::KeyRelease && !static_cast<QKeyEvent *>(event)->isAutoRepeat())
         tableKeyReleased();
+    if (event->type() != QEvent::KeyPress)
+        return QWidget::eventFilter(watched, event);
+    const int key = static_cast<QKeyEvent *>(event)->key();
+    if (watched == fldlist && (key == Qt::Key_Return || key == Qt::Key_Enter))
+        placeChosen();
+    if (watched == filter && key == Qt::Key_Down)
+        dbslist->setFocus();
     return QWidget::eventFilter(watched, event);
 }
 
@@ -154,11 +220,13 @@ void Odbcdbs::showConnection()
 {
     dsn->setText(toQString(connection().source));
     dsn->setCursorPosition(0);
-    fill(*dbslist, connection().tables);
+    filter->clear();
+    fillNames(*dbslist, tableRows(connection()));
+    enableRows();
     showColumns();
 }
 
-void Odbcdbs::showColumns() { fill(*fldlist, connection().columns); }
+void Odbcdbs::showColumns() { fillNames(*fldlist, columnRows(connection())); }
 
 void Odbcdbs::showEvent(QShowEvent *event)
 {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "database/connection.h"
 #include "document/kinds.h"
 
 #include <QIcon>
@@ -7,9 +8,11 @@
 #include <QWidget>
 
 #include <functional>
+#include <vector>
 
 class QLineEdit;
 class QListWidget;
+class QPushButton;
 class QVBoxLayout;
 
 namespace corvanta {
@@ -24,7 +27,8 @@ public:
     // picture of a kind button.
     Odbcdbs(QWidget &mainWindow, const std::function<QIcon(Kind)> &pictureOf);
 
-    std::function<void()> closed; // the user has closed the window, which hides it
+    std::function<void()> closed;                                   // the user has closed the window, which hides it
+    std::function<void(const std::vector<DroppedColumn> &)> placed; // columns are to come to the next free place
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -42,9 +46,13 @@ private:
     void tableKeyReleased();
     void showConnection();
     void showColumns();
+    void placeChosen();
+    void enableRows();
+    std::vector<DroppedColumn> chosenColumns() const; // in the order of the list
 
     QPointer<QWidget> owner;
-    QLineEdit *dsn = nullptr;
+    QLineEdit *dsn = nullptr, *filter = nullptr;
+    QPushButton *tblrows = nullptr;
     QListWidget *dbslist = nullptr, *fldlist = nullptr;
     KindButtons *kinds = nullptr;
 };

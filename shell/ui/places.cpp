@@ -118,17 +118,21 @@ void storePlace(const QWidget &window)
     const std::string section = window.windowTitle().toStdString();
     WritePrivateProfileString(section, "Top", profileNumber(twipsY(normal->corner.y())), settingsFile);
     WritePrivateProfileString(section, "Left", profileNumber(twipsX(normal->corner.x())), settingsFile);
+    WritePrivateProfileString(section, "Height", profileNumber(twipsY(normal->size.height())), settingsFile);
+    WritePrivateProfileString(section, "Width", profileNumber(twipsX(normal->size.width())), settingsFile);
 }
 
 void restorePlace(QWidget &window)
 {
     const std::string section = window.windowTitle().toStdString();
     const auto stored = [&](const char *key) { return GetPrivateProfileInt(section, key, -1, settingsFile); };
-    const int top = stored("Top"), left = stored("Left");
+    const int height = stored("Height"), width = stored("Width"), top = stored("Top"), left = stored("Left");
+    const QSize screen = QGuiApplication::primaryScreen()->virtualSize();
+    if (height > 0 && width > 0)
+        window.resize(QSize(pixelsX(width), pixelsY(height)).boundedTo(screen).expandedTo(window.minimumSizeHint()));
     if (top < 0 || left < 0)
         return;
-    const QSize screen = QGuiApplication::primaryScreen()->virtualSize();
-    const QSize size = window.sizeHint() + frameOf(window);
+    const QSize size = (height > 0 ? window.size() : window.sizeHint()) + frameOf(window);
     NormalPlace::of(window)->wanted = QPoint(keptOnScreen(pixelsX(left), size.width(), screen.width()),
                                              keptOnScreen(pixelsY(top), size.height(), screen.height()));
 }

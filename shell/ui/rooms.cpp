@@ -1,6 +1,7 @@
 #include "shell/ui/rooms.h"
 
 #include "canvas/selection.h"
+#include "canvas/ui/drop_field.h"
 #include "canvas/ui/editform.h"
 #include "database/ui/odbcdbs.h"
 #include "objects/ui/manyobj.h"
@@ -69,6 +70,10 @@ void Rooms::showOdbc(bool shown)
         rememberPlace(*odbcdbs);
         restorePlace(*odbcdbs);
         odbcdbs->closed = odbcToolbarClosed;
+        odbcdbs->placed = [this](const std::vector<DroppedColumn> &columns) {
+            if (editor.canvas() && editor.canvas()->isEnabled()) // no dialog has it switched off
+                placeColumns(columns);
+        };
     }
     if (!odbcdbs)
         return;
