@@ -68,6 +68,16 @@ std::vector<std::string> spellings(const std::string &password)
     return all;
 }
 
+// The length of the names in brackets before a reason, "[unixODBC][Driver Manager]": they are the same whatever the
+// password.
+std::size_t namesOfTellers(const std::string &text)
+{
+    std::size_t length = 0;
+    while (length < text.size() && text[length] == '[' && text.find(']', length) != std::string::npos)
+        length = text.find(']', length) + 1;
+    return length;
+}
+
 struct KnownDriver {
     const char *part, *package; // part: of the name, in lower case
 };
@@ -92,7 +102,7 @@ std::string withoutPassword(const std::string &text, const std::string &password
         masked += whole ? std::string(mask) : text.substr(at, 1);
         at += whole ? password.size() : 1;
     }
-    const std::string folded = lower(masked);
+    const std::string folded = lower(masked.substr(namesOfTellers(masked)));
     for (const std::string &spelling : spellings(password))
         if (folded.find(lower(spelling)) != std::string::npos)
             return notShown;

@@ -87,4 +87,10 @@ void endTablePreviews()
     all.ended.wait_for(lock, endingTime, [&all] { return all.running.empty(); });
 }
 
+std::size_t tablePreviewsRunning()
+{
+    const std::lock_guard lock(readings().mutex);
+    return readings().running.size();
+}
+
 } // namespace corvanta

@@ -26,4 +26,6 @@ private:
 // Cancels all that are being read, and waits half a second at most for their threads: before the program ends.
 void endTablePreviews();
 
+std::size_t tablePreviewsRunning();
+
 } // namespace corvanta

@@ -98,4 +98,14 @@ void filterNames(QLineEdit &filter, QListWidget &list)
         list.scrollToItem(list.currentItem());
 }
 
+void enterNames(QListWidget &list)
+{
+    list.setFocus();
+    if (!list.selectedItems().isEmpty() && !list.currentItem()->isHidden())
+        return;
+    for (int row = 0; row < list.count(); ++row)
+        if (!list.item(row)->isHidden())
+            return list.setCurrentRow(row);
+}
+
 } // namespace corvanta

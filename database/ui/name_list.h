@@ -22,9 +22,11 @@ struct NameRow {
 void prepareNameList(QListWidget &list);
 void fillNames(QListWidget &list, const std::vector<NameRow> &rows);
 
-// A field above a list that hides the entries that do not hold its text, letter case ignored. The Down key goes to the
-// list.
+// A field above a list that hides the entries that do not hold its text, letter case ignored.
 QLineEdit *addNameFilter(Fields &fields, const char *name, const QString &hint);
 void filterNames(QLineEdit &filter, QListWidget &list);
+
+// Gives a list the focus; without an entry that is chosen and seen it takes the first that is seen.
+void enterNames(QListWidget &list);
 
 } // namespace corvanta

@@ -85,6 +85,7 @@ Odbcdbs::Odbcdbs(QWidget &mainWindow, const std::function<QIcon(Kind)> &pictureO
 {
     setObjectName("odbcdbs");
     setWindowTitle("ODBC Toolbar");
+    setAttribute(Qt::WA_AlwaysShowToolTips); // mostly another window is the active one
     auto *column = new QVBoxLayout(this);
     addSource(*column);
     addTables(*column);
@@ -181,8 +182,8 @@ bool Odbcdbs::eventFilter(QObject *watched, QEvent *event)
     const int key = static_cast<QKeyEvent *>(event)->key();
     if (watched == fldlist && (key == Qt::Key_Return || key == Qt::Key_Enter))
         placeChosen();
-    if (watched == filter && key == Qt::Key_Down)
-        dbslist->setFocus();
+    if (watched == filter && (key == Qt::Key_Down || key == Qt::Key_Return || key == Qt::Key_Enter))
+        enterNames(*dbslist); // its columns are listed when the key is released there
     return QWidget::eventFilter(watched, event);
 }
 

@@ -19,10 +19,12 @@ namespace {
 
 void fillSources(QListWidget &list, const std::string &connected)
 {
-    for (const std::string &source : dataSources()) {
-        list.addItem(toQString(source));
-        if (source == connected)
-            list.setCurrentRow(list.count() - 1);
+    const std::vector<std::string> sources = dataSources(), shown = shownSources();
+    for (std::size_t i = 0; i < sources.size(); ++i) {
+        auto *item = new QListWidgetItem(QString::fromStdString(shown[i]), &list);
+        item->setData(Qt::UserRole, toQString(sources[i]));
+        if (sources[i] == connected)
+            list.setCurrentItem(item);
     }
 }
 
@@ -53,8 +55,8 @@ void showDialog()
     dsnlist->setFocus();
     CentreDialog(dialog);
     if (dialog.exec() == QDialog::Accepted)
-        dialogExchange() =
-            toBytes(dsnlist->currentItem()->text()) + '\t' + toBytes(user->text()) + '\t' + toBytes(password->text());
+        dialogExchange() = toBytes(dsnlist->currentItem()->data(Qt::UserRole).toString()) + '\t' +
+                           toBytes(user->text()) + '\t' + toBytes(password->text());
 }
 
 } // namespace

@@ -64,6 +64,8 @@ void Tblrows::fill(const SqlResult &result)
                   : result.rows.empty()     ? QStringLiteral("The table holds no rows.")
                   : result.rows.size() == 1 ? QStringLiteral("1 row.")
                                             : QStringLiteral("%1 rows.").arg(result.rows.size()));
+    if (result.rows.size() == firstRowCount)
+        told->setText(QStringLiteral("The first %1 rows.").arg(firstRowCount));
     rows->setColumnCount(static_cast<int>(result.columns.size()));
     rows->setRowCount(static_cast<int>(result.rows.size()));
     for (int column = 0; column < rows->columnCount(); ++column)

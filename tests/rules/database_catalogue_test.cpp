@@ -186,6 +186,8 @@ TEST(CatalogueReason, MasksThePasswordOnlyAsAWholeWord)
                  {"no connection", "o", untold},
                  {"secret and secret2", "secret", untold},
                  {"Secret", "secret", untold},
+                 {"[unixODBC][x]no way", "odbc", "[unixODBC][x]no way"},
+                 {"[unixODBC]can't open libodbc", "odbc", untold},
                  {"PWD={a}}b}", "a}b", untold},
                  {"//ann:p%3Aw@host", "p:w", untold},
                  {"gr\xC3\x83\xC2\xB6\xC3\x83\xC2\x9F"

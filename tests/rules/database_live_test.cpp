@@ -1,8 +1,10 @@
 #include "database/catalogue.h"
 #include "database/connection.h"
 #include "database/sql.h"
+#include "database/table_preview.h"
 #include "document/page_file.h"
 #include "platform/codepage.h"
+#include "platform/post.h"
 #include "tests/support/database_sources.h"
 #include "tests/support/samples.h"
 
@@ -177,6 +179,28 @@ TEST_F(NamedTables, OfTheConnectionsOwnCatalogueAlone)
     ASSERT_TRUE(SelectDataSource(c, "Maria\tclerk\tsecret"));
     EXPECT_EQ(c.tables.size(), std::size(mariaTables));
     expectTables(mariaTables);
+}
+
+TEST_F(DatabaseLive, CancelledRowsAreNotWaitedFor)
+{
+    ASSERT_TRUE(connectTo("Live"));
+    const auto place = [this](const char *table) {
+        return static_cast<int>(std::find(c.tables.begin(), c.tables.end(), table) - c.tables.begin());
+    };
+    std::optional<SqlResult> read;
+    const auto take = [&read](const SqlResult &result) { read = result; };
+    const TablePreview customers(c, place("?? (U+8868 U+4E00)"), take);
+    while (!read)
+        runPostedJobs();
+    EXPECT_EQ(read->error, "");
+    EXPECT_EQ(read->columns.size(), 1U);
+    read.reset();
+    std::optional<TablePreview> slow(std::in_place, c, place("slow"), take); // for a minute
+    slow.reset();
+    endTablePreviews();
+    EXPECT_EQ(tablePreviewsRunning(), 0U);
+    runPostedJobs();
+    EXPECT_FALSE(read);
 }
 
 TEST_F(DatabaseLive, ADriverWithoutUnicodeTakesNamesInTheCodePage)

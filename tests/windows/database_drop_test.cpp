@@ -52,3 +52,24 @@ TEST_F(DroppedField, BecomesABoundObjectOfTheChosenKind)
     EXPECT_TRUE(page().objects[1].datacol.empty());
     EXPECT_EQ(edits, 2);
 }
+
+TEST_F(DroppedField, SeveralBecomeRowsInOneAct)
+{
+    const std::vector<DroppedColumn> columns{name, {"Customers", "Born", 3, 10}};
+    dropOn(form.pageArea(), "fld", QByteArray::fromStdString(dragOfColumns(columns)), {390, 290});
+    ASSERT_EQ(objectCount(page()), 4);
+    EXPECT_EQ(edits, 1);
+    EXPECT_EQ(elementOf(page(), 0)->Caption, "R&&D Name");
+    EXPECT_EQ(page().objects[1].datacol + page().objects[3].datacol, "Customers.R&D NameCustomers.Born");
+    EXPECT_EQ(page().tbxextras[2].inptype, 3);
+    EXPECT_EQ(recordRect(3).bottomRight(), QPoint(399, 299)); // all of them stay on the page
+    EXPECT_EQ(recordRect(1).right(), 399);
+    EXPECT_LT(recordRect(1).bottom(), recordRect(3).top());
+    EXPECT_LT(recordRect(0).right(), recordRect(1).left());
+    EXPECT_EQ(editing().multcount, 4);
+    placeColumns(columns);
+    EXPECT_EQ(recordRect(4).left(), recordRect(6).left());
+    for (std::int16_t i = 0; i < 4; ++i)
+        EXPECT_FALSE(recordRect(i).intersects(recordRect(5)));
+    EXPECT_TRUE(columnsOfDrag("Customers\tName\t0\t40\nrubbish").empty());
+}

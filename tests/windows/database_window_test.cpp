@@ -2,6 +2,7 @@
 #include "database/connection.h"
 #include "database/ui/odbcdbs.h"
 #include "database/ui/seldsn.h"
+#include "platform/post.h"
 #include "platform/qt/drag.h"
 #include "shell/ui/icons.h"
 #include "tests/support/database_sources.h"
@@ -13,6 +14,7 @@
 #include <QListWidget>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QTableWidget>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -119,6 +121,52 @@ TEST_F(OdbcWindow, ConnectsAndLists)
     EXPECT_EQ(part<QLineEdit>("dsn").text(), "Archive");
     EXPECT_TRUE(entries("fldlist").isEmpty());
     EXPECT_TRUE(QTest::qWaitFor([] { return !QApplication::overrideCursor(); }));
+}
+
+TEST_F(OdbcWindow, FiltersTablesTellsTypesAndPlacesColumns)
+{
+    connectTo("Shop");
+    auto &tables = part<QListWidget>("dbslist"), &columns = part<QListWidget>("fldlist");
+    EXPECT_FALSE(part<QAbstractButton>("rowsbut").isEnabled());
+    QTest::keyClicks(&part<>("dbsfilter"), "PRICE");
+    for (int row = 0; row < tables.count(); ++row)
+        EXPECT_EQ(tables.isRowHidden(row), tables.item(row)->text() != "PriceList");
+    QTest::keyPress(&part<>("dbsfilter"), Qt::Key_Down);
+    QTest::keyRelease(&part<>("dbslist"), Qt::Key_Down);
+    EXPECT_EQ(connection().tables.at(static_cast<std::size_t>(connection().listedTable)), "PriceList");
+    EXPECT_TRUE(part<QAbstractButton>("rowsbut").isEnabled());
+    const auto spoken = [](QListWidget &list, int row) { return list.item(row)->data(Qt::AccessibleTextRole); };
+    EXPECT_EQ(spoken(tables, tables.currentRow()), "PriceList, view");
+    part<QLineEdit>("dbsfilter").clear();
+    clickEntry("dbslist", 0);
+    EXPECT_EQ(spoken(columns, 0), "Number, INTEGER, primary key");
+    EXPECT_EQ(spoken(columns, 1), "Name, VARCHAR(40)");
+    EXPECT_TRUE(columns.item(1)->toolTip().contains("length 40"));
+
+    std::string placed;
+    window->placed = [&](const std::vector<DroppedColumn> &list) { placed = dragOfColumns(list); };
+    clickEntry("fldlist", 1);
+    QTest::keyClick(&columns, Qt::Key_Return);
+    EXPECT_EQ(placed, dragOfColumn(*columnAt(connection(), 1)));
+    QTest::mouseClick(columns.viewport(), Qt::LeftButton, Qt::ShiftModifier,
+                      columns.visualItemRect(columns.item(2)).center());
+    EXPECT_EQ(dragOfEntry("fldlist", 1), "fld:" + placed + '\n' + dragOfColumn(*columnAt(connection(), 2)));
+}
+
+TEST_F(OdbcWindow, ShowsTheFirstRowsOfATable)
+{
+    connectTo("Shop");
+    clickEntry("dbslist", 1);
+    press(*window, "rowsbut");
+    QWidget *shown = nullptr;
+    ASSERT_TRUE(QTest::qWaitFor([&] {
+        runPostedJobs();
+        shown = window->findChild<QWidget *>("tblrows");
+        return shown && find<QTableWidget>(*shown, "rows").rowCount() > 0;
+    }));
+    auto &rows = find<QTableWidget>(*shown, "rows");
+    EXPECT_EQ(static_cast<std::size_t>(rows.columnCount()), connection().columns.size());
+    EXPECT_EQ(rows.editTriggers(), QAbstractItemView::NoEditTriggers);
 }
 
 TEST_F(OdbcWindow, ChoiceOfSourceFollowsItsRules)
