@@ -1,6 +1,7 @@
 #include "database/catalogue.h"
 
 #include "database/catalogue_odbc.h"
+#include "database/catalogue_thread.h"
 
 #include <algorithm>
 #include <cstring>
@@ -38,11 +39,12 @@ struct Library {
     Listing<ListedName> sources;
     Listing<OdbcTable> tables;
     Listing<OdbcColumn> columns;
+    bool lost = false;
 };
 
 Library &library()
 {
-    static Library instance;
+    thread_local Library instance;
     return instance;
 }
 
@@ -64,6 +66,12 @@ OpenConnection *openConnection(const char *dsn, const char *user)
 {
     auto place = connectionPlace(dsn, user);
     return place == library().connections.end() ? nullptr : &*place;
+}
+
+// After an enumeration; what was found tells that the connection stood.
+void noteLoss(const OpenConnection &connection, bool found)
+{
+    library().lost = takeLost() || (!found && odbcDead(connection.handle.get()));
 }
 
 std::int32_t giveName(const std::string &name, char *buffer)
@@ -114,7 +122,9 @@ std::int32_t GetFirstTableName(const char *dsn, const char *user, const char *, 
     OpenConnection *connection = openConnection(dsn, user);
     if (!connection)
         return failure;
+    takeLost();
     connection->tables = odbcTables(connection->handle.get());
+    noteLoss(*connection, !connection->tables.empty());
     library().tables.start(connection->tables);
     return GetNextTableName(name);
 }
@@ -136,8 +146,10 @@ std::int32_t GetFirstColumn(const char *dsn, const char *user, const char *, con
     // A listed table is asked for as the driver spelt it.
     auto listed = std::find_if(connection->tables.begin(), connection->tables.end(),
                                [&](const OdbcTable &t) { return t.name.listed.name == wanted; });
+    takeLost();
     library().columns.start(
         odbcColumns(connection->handle.get(), listed == connection->tables.end() ? odbcTableNamed(wanted) : *listed));
+    noteLoss(*connection, !library().columns.entries.empty());
     return GetNextColumn(name, type, length);
 }
 
@@ -174,6 +186,8 @@ std::vector<ColumnFacts> columnFacts()
         facts.push_back({c.typeName, c.key});
     return facts;
 }
+
+bool connectionLost() { return library().lost; }
 
 std::int32_t OdbcNameEndDll()
 {

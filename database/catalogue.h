@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -9,7 +10,8 @@
 // name is written into a buffer of nameBufferSize bytes that the caller owns, and cut when it is longer.
 // Every function returns a status: 0 = success (of an enumeration: a name was written), any other value =
 // failure (no more names). An enumeration is a First call and then Next calls until a non-zero status; the
-// three enumerations do not disturb each other. Several connections may be open at once.
+// three enumerations do not disturb each other. Several connections may be open at once. Every thread has a catalogue
+// of its own, with its own connections: one that hangs in a driver holds up no other.
 namespace corvanta {
 
 inline constexpr std::size_t nameBufferSize = 256;
@@ -18,7 +20,7 @@ inline constexpr std::size_t nameBufferSize = 256;
 std::int32_t GetFirstOdbcDsn(char *name);
 std::int32_t GetNextOdbcDsn(char *name);
 
-// Connects within the log-in time-out of five seconds. Why a connection failed is told on standard error and in the
+// Connects within the log-in time-out. Why a connection failed is told on standard error and in the
 // reason, in lines of UTF-8 (SQLSTATE and the driver's text, without the password). A file database is never created.
 std::int32_t ConnectDsn(const char *dsn, const char *user, const char *password, std::string *reason = nullptr);
 // Drops the connection that was made with these values.
@@ -51,7 +53,23 @@ std::vector<std::string> shownSources();
 std::vector<TableFacts> tableFacts();
 std::vector<ColumnFacts> columnFacts();
 
-// Drops every connection and releases the library; a later call starts it again.
+// Whether the last enumeration of tables or columns found the connection gone; its list may be incomplete then.
+bool connectionLost();
+
+// How long drivers may take, in seconds: to connect, and for one call of the catalogue.
+struct CatalogueTimes {
+    int login = 5, call = 15;
+};
+void setCatalogueTimes(const CatalogueTimes &times); // of the whole process
+CatalogueTimes catalogueTimes();
+
+// A function by which other threads break off the calls that this thread is in. Drivers may make it wait.
+std::function<void()> catalogueBreaker();
+
+// Whether any thread holds the library. The program must not end in the ordinary way then: a driver may still run.
+bool catalogueInUse();
+
+// Drops every connection of this thread and releases its library; a later call starts it again.
 std::int32_t OdbcNameEndDll();
 
 } // namespace corvanta

@@ -1,3 +1,4 @@
+#include "database/catalogue.h"
 #include "database/catalogue_handles.h"
 #include "database/catalogue_reason.h"
 
@@ -5,6 +6,7 @@
 #include "platform/text.h"
 
 #include <algorithm>
+#include <atomic>
 #include <chrono>
 #include <cstdio>
 #include <dlfcn.h>
@@ -15,7 +17,6 @@
 namespace corvanta {
 namespace {
 
-constexpr SQLULEN loginSeconds = 5;
 constexpr std::size_t convertedLength = SQL_MAX_DSN_LENGTH + 1;
 
 // The driver manager converts for drivers without Unicode by the character set that is in force when the
@@ -132,7 +133,14 @@ bool isAscii(const std::string &text)
     return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
-void releaseEnvironment(void *handle) { SQLFreeHandle(SQL_HANDLE_ENV, handle); }
+std::atomic<int> environments = 0;
+
+void releaseEnvironment(void *handle)
+{
+    SQLFreeHandle(SQL_HANDLE_ENV, handle);
+    --environments;
+}
+
 void releaseConnection(void *handle)
 {
     SQLDisconnect(handle); // does nothing for one that was never connected
@@ -184,6 +192,7 @@ OdbcHandle connected(void *environment, const Source &source, const std::string 
                      std::string &reason)
 {
     const auto start = std::chrono::steady_clock::now();
+    const auto loginSeconds = static_cast<SQLULEN>(catalogueTimes().login);
     OdbcHandle connection = newConnection(environment, loginSeconds);
     if (!connection || connectWide(connection.get(), source, user, password))
         return connection;
@@ -204,9 +213,20 @@ OdbcHandle connected(void *environment, const Source &source, const std::string 
 OdbcHandle openOdbc()
 {
     OdbcHandle environment = newHandle(SQL_HANDLE_ENV, nullptr, releaseEnvironment);
-    if (environment)
-        SQLSetEnvAttr(environment.get(), SQL_ATTR_ODBC_VERSION, reinterpret_cast<SQLPOINTER>(SQL_OV_ODBC3), 0);
+    if (!environment)
+        return environment;
+    ++environments;
+    SQLSetEnvAttr(environment.get(), SQL_ATTR_ODBC_VERSION, reinterpret_cast<SQLPOINTER>(SQL_OV_ODBC3), 0);
     return environment;
+}
+
+bool catalogueInUse() { return environments > 0; }
+
+bool odbcDead(void *connection)
+{
+    SQLUINTEGER dead = SQL_CD_FALSE;
+    return SQL_SUCCEEDED(SQLGetConnectAttr(connection, SQL_ATTR_CONNECTION_DEAD, &dead, 0, nullptr)) &&
+           dead == SQL_CD_TRUE;
 }
 
 std::vector<ListedName> odbcSources(void *environment) { return listed(spellings(environment)); }

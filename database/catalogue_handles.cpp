@@ -1,5 +1,6 @@
 #include "database/catalogue_handles.h"
 
+#include "database/catalogue_thread.h"
 #include "platform/codepage.h"
 
 namespace corvanta {
@@ -10,7 +11,11 @@ constexpr SQLSMALLINT mostDiagnoses = 8;
 
 static_assert(sizeof(SQLWCHAR) == sizeof(char16_t));
 
-void releaseStatement(void *handle) { SQLFreeHandle(SQL_HANDLE_STMT, handle); }
+void releaseStatement(void *handle)
+{
+    statementEnds(handle);
+    SQLFreeHandle(SQL_HANDLE_STMT, handle);
+}
 
 } // namespace
 
@@ -24,7 +29,13 @@ OdbcHandle newHandle(SQLSMALLINT kind, SQLHANDLE parent, void (*release)(void *)
     return {handle, release};
 }
 
-OdbcHandle newStatement(void *connection) { return newHandle(SQL_HANDLE_STMT, connection, releaseStatement); }
+OdbcHandle newStatement(void *connection)
+{
+    OdbcHandle statement = newHandle(SQL_HANDLE_STMT, connection, releaseStatement);
+    if (statement)
+        statementBegins(statement.get());
+    return statement;
+}
 
 SQLWCHAR *odbcText(const std::u16string &text)
 {

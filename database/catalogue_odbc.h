@@ -38,6 +38,9 @@ std::vector<ListedName> odbcSources(void *environment);
 OdbcHandle connectOdbc(void *environment, const std::string &dsn, const std::string &user, const std::string &password,
                        std::string *reason = nullptr);
 
+// Whether the driver knows that its server is gone; it may ask the server.
+bool odbcDead(void *connection);
+
 // Those of the connection's own catalogue.
 std::vector<OdbcTable> odbcTables(void *connection);
 std::vector<OdbcColumn> odbcColumns(void *connection, const OdbcTable &table);

@@ -6,23 +6,9 @@
 #include "platform/codepage.h"
 #include "platform/text.h"
 
+#include <utility>
+
 namespace corvanta {
-namespace {
-
-constexpr std::size_t firstColumnRoom = 11;
-
-void clearColumns(Connection &c)
-{
-    c.listedTable = -1;
-    c.columns.clear();
-    c.columnTypes.clear();
-    c.columnLengths.clear();
-    c.columnFacts.clear();
-    c.columnTypes.reserve(firstColumnRoom);
-    c.columnLengths.reserve(firstColumnRoom);
-}
-
-} // namespace
 
 Connection &connection()
 {
@@ -39,52 +25,92 @@ std::vector<std::string> dataSources()
     return names;
 }
 
+Login loginOf(std::string_view reply) { return {fieldAt(reply, 0), fieldAt(reply, 1), fieldAt(reply, 2)}; }
+
+ListedTables readTables(const Login &login)
+{
+    ListedTables listed;
+    char name[nameBufferSize];
+    for (std::int32_t status =
+             GetFirstTableName(login.source.c_str(), login.user.c_str(), login.password.c_str(), name);
+         status == 0; status = GetNextTableName(name))
+        listed.names.emplace_back(name);
+    listed.facts = tableFacts();
+    listed.lost = connectionLost();
+    return listed;
+}
+
+ListedColumns readColumns(const Login &login, const std::string &table)
+{
+    ListedColumns listed;
+    char name[nameBufferSize];
+    std::int16_t type = 0, length = 0;
+    for (std::int32_t status = GetFirstColumn(login.source.c_str(), login.user.c_str(), login.password.c_str(),
+                                              table.c_str(), name, type, length);
+         status == 0; status = GetNextColumn(name, type, length)) {
+        listed.names.emplace_back(name);
+        listed.types.push_back(type);
+        listed.lengths.push_back(length);
+    }
+    listed.facts = columnFacts();
+    listed.lost = connectionLost();
+    return listed;
+}
+
+void adoptSource(Connection &c, const Login &login)
+{
+    c.source = login.source;
+    c.user = login.user;
+    c.password = login.password;
+    takeTables(c, {});
+    clearColumns(c);
+}
+
+void takeTables(Connection &c, ListedTables listed)
+{
+    c.tables = std::move(listed.names);
+    c.tableFacts = std::move(listed.facts);
+}
+
+void clearColumns(Connection &c) { takeColumns(c, -1, {}); }
+
+void takeColumns(Connection &c, int table, ListedColumns listed)
+{
+    c.listedTable = table;
+    c.columns = std::move(listed.names);
+    c.columnTypes = std::move(listed.types);
+    c.columnLengths = std::move(listed.lengths);
+    c.columnFacts = std::move(listed.facts);
+}
+
+void tellFailure(const std::string &source, const std::string &reason)
+{
+    showMessage({.text = "Failure connecting to " + source, .title = "Error", .further = reason});
+}
+
 bool SelectDataSource(Connection &c, std::string_view reply)
 {
-    std::string source = fieldAt(reply, 0), user = fieldAt(reply, 1), password = fieldAt(reply, 2);
-    if (source.empty() || source == c.source)
+    const Login login = loginOf(reply);
+    if (login.source.empty() || login.source == c.source)
         return false;
     std::string reason;
-    if (ConnectDsn(source.c_str(), user.c_str(), password.c_str(), &reason) != 0) {
-        showMessage({.text = "Failure connecting to " + source, .title = "Error", .further = fromUtf8Lossy(reason)});
+    if (ConnectDsn(login.source.c_str(), login.user.c_str(), login.password.c_str(), &reason) != 0) {
+        tellFailure(login.source, fromUtf8Lossy(reason));
         return false;
     }
     if (!c.source.empty())
         DisconnectDsn(c.source.c_str(), c.user.c_str());
-    c.source = source;
-    c.user = user;
-    c.password = password;
-    clearColumns(c);
+    adoptSource(c, login);
     ListTables(c);
     return true;
 }
 
-void ListTables(Connection &c)
-{
-    c.tables.clear();
-    char name[nameBufferSize];
-    for (std::int32_t status = GetFirstTableName(c.source.c_str(), c.user.c_str(), c.password.c_str(), name);
-         status == 0; status = GetNextTableName(name))
-        c.tables.emplace_back(name);
-    c.tableFacts = tableFacts();
-}
+void ListTables(Connection &c) { takeTables(c, readTables({c.source, c.user, c.password})); }
 
 void ListColumns(Connection &c, int table)
 {
-    if (table < 0 || table >= static_cast<int>(c.tables.size()))
-        return;
-    clearColumns(c);
-    c.listedTable = table;
-    char name[nameBufferSize];
-    std::int16_t type = 0, length = 0;
-    for (std::int32_t status = GetFirstColumn(c.source.c_str(), c.user.c_str(), c.password.c_str(),
-                                              c.tables[table].c_str(), name, type, length);
-         status == 0; status = GetNextColumn(name, type, length)) {
-        c.columns.emplace_back(name);
-        c.columnTypes.push_back(type);
-        c.columnLengths.push_back(length);
-    }
-    c.columnFacts = columnFacts();
+    if (table >= 0 && table < static_cast<int>(c.tables.size()))
+        takeColumns(c, table, readColumns({c.source, c.user, c.password}, c.tables[table]));
 }
 
 void listColumnsAfterKey(Connection &c, int table)

@@ -44,15 +44,45 @@ struct Connection {
     std::size_t pressedButton = textBoxButton; // the chosen object kind
 };
 
+// What a connection is made with. Bytes of the code page.
+struct Login {
+    std::string source, user, password;
+};
+Login loginOf(std::string_view reply); // of the dialog: source, user and password, tab-separated
+
+// What the catalogue of this thread tells, which may take as long as the driver does.
+struct ListedTables {
+    std::vector<std::string> names;
+    std::vector<TableFacts> facts;
+    bool lost = false; // the connection is gone
+};
+struct ListedColumns {
+    std::vector<std::string> names;
+    std::vector<std::int16_t> types, lengths;
+    std::vector<ColumnFacts> facts;
+    bool lost = false;
+};
+ListedTables readTables(const Login &login);
+ListedColumns readColumns(const Login &login, const std::string &table);
+
+// The same in the connection's state: another source, without tables and columns, and what was listed of it.
+void adoptSource(Connection &c, const Login &login);
+void takeTables(Connection &c, ListedTables listed);
+void clearColumns(Connection &c);
+void takeColumns(Connection &c, int table, ListedColumns listed);
+
+// "Failure connecting to ...", with the reason in the code page.
+void tellFailure(const std::string &source, const std::string &reason);
+
 // The one connection of the editor.
 Connection &connection();
 
 // The names of all data sources, for the choice of one.
 std::vector<std::string> dataSources();
 
-// Connects to the source that was chosen; the reply holds source, user and password, tab-separated, and is
-// empty after a cancel. True when there is a new connection, with its tables listed and no columns. A
-// failure is told and changes nothing; the source that is already connected is left alone.
+// In this thread, which waits: connects to the source that was chosen; the reply holds source, user and password,
+// tab-separated, and is empty after a cancel. True when there is a new connection, with its tables listed and no
+// columns. A failure is told and changes nothing; the source that is already connected is left alone.
 bool SelectDataSource(Connection &c, std::string_view reply);
 
 void ListTables(Connection &c);

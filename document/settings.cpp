@@ -21,6 +21,13 @@ void readNumber(const char *key, int &value)
     value = static_cast<int>(std::clamp(leadingNumber(stored), -1e6, 1e6));
 }
 
+void readSeconds(const char *key, int &value)
+{
+    constexpr int longest = 3600;
+    readNumber(key, value);
+    value = std::clamp(value, 1, longest);
+}
+
 void readTruth(const char *in, const char *key, bool &value)
 {
     value = GetPrivateProfileInt(in, key, value ? -1 : 0, profileFile) != 0;
@@ -49,6 +56,8 @@ WindowSettings loadSettings(const WindowSettings &current)
     readNumber("PageLeft", s.PageLeft);
     readNumber("PageHeight", s.PageHeight);
     readNumber("PageWidth", s.PageWidth);
+    readSeconds("OdbcLoginTimeout", s.OdbcLoginTimeout);
+    readSeconds("OdbcCallTimeout", s.OdbcCallTimeout);
     readTruth(section, "ShowToolbar", s.ShowToolbar);
     readTruth(section, "ShowStatus", s.ShowStatus);
     readTruth(canvasSection, "ShowBindings", s.ShowBindings);

@@ -9,7 +9,8 @@ struct WindowSettings {
     int MainTop = 0, MainLeft = 0;                                // twips
     int PageTop = 0, PageLeft = 0, PageHeight = 0, PageWidth = 0; // twips
     bool ShowToolbar = true, ShowStatus = true;
-    bool ShowBindings = false; // bound fields show their names
+    bool ShowBindings = false;                      // bound fields show their names
+    int OdbcLoginTimeout = 5, OdbcCallTimeout = 15; // seconds, 1 to 3600; read, not stored
 };
 
 // The settings as stored; a value that is absent is taken from the argument. Sets curdir to the stored

@@ -85,6 +85,7 @@ void applySettings()
     current.ShowStatus = pageMenuMarks().statusPanel;
     current.ShowBindings = pageMenuMarks().bindings;
     const WindowSettings stored = loadSettings(current);
+    setCatalogueTimes({stored.OdbcLoginTimeout, stored.OdbcCallTimeout});
     markMockToolbar(stored.ShowToolbar);
     markStatusPanel(stored.ShowStatus);
     markBindings(stored.ShowBindings);

@@ -115,6 +115,8 @@ void KindButtons::addButton(std::size_t index, const QIcon &picture)
     buttons.push_back(button);
 }
 
+void KindButtons::press(std::size_t index) { buttons[index]->setChecked(true); }
+
 void KindButtons::pointerMoved(QPoint pointer)
 {
     const auto under = std::find_if(buttons.begin(), buttons.end(), [&](const QToolButton *button) {

@@ -24,6 +24,7 @@ public:
     // The pointer has moved within the window, on the screen: over a button the tip comes, elsewhere it goes.
     void pointerMoved(QPoint pointer);
     void hideTip();
+    void press(std::size_t index);
 
 private:
     void addButton(std::size_t index, const QIcon &picture);

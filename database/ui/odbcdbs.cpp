@@ -9,10 +9,9 @@
 #include "platform/qt/dialogs.h"
 #include "platform/qt/text.h"
 
-#include <QApplication>
-#include <QCoreApplication>
-#include <QEventLoop>
+#include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMouseEvent>
@@ -27,12 +26,7 @@ namespace corvanta {
 
 namespace {
 
-// The wait pointer until the event loop runs again: after the work, or in a message about it.
-void showWaitPointer()
-{
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    QTimer::singleShot(0, qApp, [] { QApplication::restoreOverrideCursor(); });
-}
+constexpr int patience = 500; // milliseconds until it is told what is waited for
 
 QString fromText(const std::string &utf8) { return QString::fromStdString(utf8); }
 
@@ -81,13 +75,16 @@ int selectedRow(const QListWidget &list) { return list.selectedItems().isEmpty()
 } // namespace
 
 Odbcdbs::Odbcdbs(QWidget &mainWindow, const std::function<QIcon(Kind)> &pictureOf)
-    : QWidget(nullptr, Qt::Tool), owner(&mainWindow)
+    : QWidget(nullptr, Qt::Tool),
+      owner(&mainWindow),
+      jobs(connection(), [this](ConnectionJobs::Change change) { showChange(change); })
 {
     setObjectName("odbcdbs");
     setWindowTitle("ODBC Toolbar");
     setAttribute(Qt::WA_AlwaysShowToolTips); // mostly another window is the active one
     auto *column = new QVBoxLayout(this);
     addSource(*column);
+    addWaiting(*column);
     addTables(*column);
     addColumns(*column);
     kinds = new KindButtons(pictureOf, this);
@@ -103,7 +100,37 @@ void Odbcdbs::addSource(QVBoxLayout &layout)
     dsn->setReadOnly(true);
     QPushButton *dsnselect = addButtonBeside(group.fields, "dsnselect", "Select");
     connect(dsnselect, &QPushButton::clicked, this, [this] { selectSource(); });
+    refresh = addButtonBeside(group.fields, "refreshbut", "Refresh");
+    refresh->setToolTip(QStringLiteral("Reads the tables again"));
+    connect(refresh, &QPushButton::clicked, this, [this] { jobs.refresh(); });
     makeDragSource(*dsn, "dsn", [this] { return offerOf(connection().source, dsn->text(), *dsn); });
+}
+
+// Keeps its place while nothing is waited for, so that the lists stay under the pointer.
+void Odbcdbs::addWaiting(QVBoxLayout &layout)
+{
+    waiting = new QWidget(this);
+    auto *row = new QHBoxLayout(waiting);
+    row->setContentsMargins(0, 0, 0, 0);
+    told = new QLabel(waiting);
+    told->setObjectName("waiting");
+    told->setTextFormat(Qt::PlainText);
+    told->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    row->addWidget(told, 1);
+    auto *giveUp = new QPushButton(QStringLiteral("Cancel"), waiting);
+    giveUp->setObjectName("cancelbut");
+    giveUp->setCursor(Qt::ArrowCursor);
+    connect(giveUp, &QPushButton::clicked, this, [this] { jobs.cancel(); });
+    row->addWidget(giveUp);
+    QSizePolicy policy = waiting->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    waiting->setSizePolicy(policy);
+    waiting->hide();
+    layout.addWidget(waiting);
+    patient = new QTimer(this);
+    patient->setSingleShot(true);
+    patient->setInterval(patience);
+    connect(patient, &QTimer::timeout, waiting, [this] { waiting->show(); });
 }
 
 void Odbcdbs::addTables(QVBoxLayout &layout)
@@ -190,47 +217,66 @@ bool Odbcdbs::eventFilter(QObject *watched, QEvent *event)
 void Odbcdbs::selectSource()
 {
     const std::string reply = askDataSource(connection().source);
-    if (reply.empty())
-        return;
-    showWaitPointer();
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); // the closed dialog leaves the screen
-    if (SelectDataSource(connection(), reply))
-        showConnection();
+    jobs.connectTo(reply);
 }
 
-void Odbcdbs::tableClicked()
-{
-    showWaitPointer();
-    ListColumns(connection(), selectedRow(*dbslist));
-    showColumns();
-}
+void Odbcdbs::tableClicked() { jobs.listColumns(selectedRow(*dbslist)); }
 
 // What is listed already stays, with its selected column.
-void Odbcdbs::tableKeyReleased()
-{
-    const int before = connection().listedTable;
-    if (selectedRow(*dbslist) == before)
-        return;
-    showWaitPointer();
-    listColumnsAfterKey(connection(), selectedRow(*dbslist));
-    if (connection().listedTable != before)
-        showColumns();
-}
+void Odbcdbs::tableKeyReleased() { jobs.listColumnsAfterKey(selectedRow(*dbslist)); }
 
 void Odbcdbs::showConnection()
 {
     dsn->setText(toQString(connection().source));
     dsn->setCursorPosition(0);
+    refresh->setEnabled(!connection().source.empty());
     filter->clear();
+    showTables();
+}
+
+void Odbcdbs::showTables()
+{
     fillNames(*dbslist, tableRows(connection()));
+    filterNames(*filter, *dbslist);
+    dbslist->setCurrentRow(connection().listedTable);
     enableRows();
     showColumns();
+}
+
+void Odbcdbs::showChange(ConnectionJobs::Change change)
+{
+    switch (change) {
+    case ConnectionJobs::Change::Doing: break;
+    case ConnectionJobs::Change::Source: showConnection(); break;
+    case ConnectionJobs::Change::Tables: showTables(); break;
+    case ConnectionJobs::Change::Columns: showColumns(); break;
+    }
+    showWaiting();
+}
+
+// The pointer of this window alone: the others go on.
+void Odbcdbs::showWaiting()
+{
+    const QString doing = toQString(jobs.doing());
+    told->setText(doing);
+    told->setToolTip(doing);
+    if (doing.isEmpty()) {
+        patient->stop();
+        waiting->hide();
+        unsetCursor();
+        return;
+    }
+    setCursor(Qt::WaitCursor);
+    if (!waiting->isVisible() && !patient->isActive())
+        patient->start();
 }
 
 void Odbcdbs::showColumns() { fillNames(*fldlist, columnRows(connection())); }
 
 void Odbcdbs::showEvent(QShowEvent *event)
 {
+    if (!event->spontaneous())
+        kinds->press(textBoxButton); // whenever it opens
     if (owner && owner->windowHandle())
         windowHandle()->setTransientParent(owner->windowHandle());
     QWidget::showEvent(event);

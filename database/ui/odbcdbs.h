@@ -1,6 +1,7 @@
 #pragma once
 
 #include "database/connection.h"
+#include "database/connection_jobs.h"
 #include "document/kinds.h"
 
 #include <QIcon>
@@ -10,9 +11,11 @@
 #include <functional>
 #include <vector>
 
+class QLabel;
 class QLineEdit;
 class QListWidget;
 class QPushButton;
+class QTimer;
 class QVBoxLayout;
 
 namespace corvanta {
@@ -41,10 +44,14 @@ private:
     void addTables(QVBoxLayout &layout);
     void addColumns(QVBoxLayout &layout);
     void watchPointer();
+    void addWaiting(QVBoxLayout &layout);
+    void showChange(ConnectionJobs::Change change);
+    void showWaiting();
     void selectSource();
     void tableClicked();
     void tableKeyReleased();
     void showConnection();
+    void showTables();
     void showColumns();
     void placeChosen();
     void enableRows();
@@ -52,9 +59,13 @@ private:
 
     QPointer<QWidget> owner;
     QLineEdit *dsn = nullptr, *filter = nullptr;
-    QPushButton *tblrows = nullptr;
+    QPushButton *tblrows = nullptr, *refresh = nullptr;
+    QWidget *waiting = nullptr; // the line about what is waited for
+    QLabel *told = nullptr;
+    QTimer *patient = nullptr;
     QListWidget *dbslist = nullptr, *fldlist = nullptr;
     KindButtons *kinds = nullptr;
+    ConnectionJobs jobs;
 };
 
 } // namespace corvanta

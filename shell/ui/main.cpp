@@ -1,5 +1,7 @@
+#include "database/catalogue.h"
 #include "platform/codepage.h"
 #include "platform/files.h"
+#include "platform/post.h"
 #include "shell/session.h"
 #include "shell/ui/hpsedit.h"
 #include "shell/ui/rooms.h"
@@ -35,9 +37,7 @@ void describe(CLI::App &usage, CommandLine &line)
             "NUMBER"));
 }
 
-} // namespace
-
-int main(int argc, char **argv)
+int runEditor(int argc, char **argv)
 {
     takeFileErrorsAsErrors();
     CommandLine line;
@@ -67,5 +67,16 @@ int main(int argc, char **argv)
     windows.start(line.pageFile);
     const int code = QApplication::exec();
     windows.end();
+    setEventLoop({}); // abandoned threads tell nothing any more
+    return code;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const int code = runEditor(argc, argv);
+    if (catalogueInUse()) // a thread is in a driver: nothing that it uses may be torn down
+        std::_Exit(code);
     return code;
 }

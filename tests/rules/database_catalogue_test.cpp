@@ -1,7 +1,7 @@
 #include "database/catalogue.h"
 #include "database/catalogue_names.h"
 #include "database/catalogue_reason.h"
-#include "database/connection.h"
+#include "database/connection_jobs.h"
 #include "platform/codepage.h"
 #include "tests/support/database_sources.h"
 #include "tests/support/scripted_asking.h"
@@ -11,6 +11,8 @@
 #include <algorithm>
 #include <filesystem>
 #include <map>
+#include <memory>
+#include <thread>
 
 namespace corvanta {
 namespace {
@@ -233,6 +235,56 @@ TEST_F(Catalogue, AFailedConnectionIsToldAndChangesNothing)
     EXPECT_EQ(c.columns.size(), 6U);
     ListTables(c); // still connected
     EXPECT_EQ(c.tables.size(), 7U);
+}
+
+TEST_F(Catalogue, IsListedInTheBackgroundAndConnectedAgain)
+{
+    Connection c;
+    auto jobs = std::make_unique<ConnectionJobs>(c, [](ConnectionJobs::Change) {});
+    const auto settle = [&jobs] {
+        while (!jobs->doing().empty()) {
+            std::this_thread::yield();
+            runPostedJobs();
+        }
+    };
+    jobs->connectTo("Shop\tann\tsecret");
+    EXPECT_EQ(jobs->doing(), "Connecting to Shop...");
+    EXPECT_EQ(c.source, "");
+    settle();
+    EXPECT_EQ(c.tables.size(), 7U);
+    jobs->listColumns(3);
+    settle();
+    EXPECT_EQ(c.columns.size(), 6U);
+    jobs->connectTo("Shop\tben\tother"); // connected already
+    EXPECT_EQ(jobs->doing(), "");
+    jobs->refresh();
+    settle();
+    EXPECT_EQ(c.listedTable, 3);
+    EXPECT_EQ(c.columns.size(), 6U);
+
+    ScriptedAsking user;
+    user.expectMessage("Failure connecting to Silent", "Error");
+    setCatalogueTimes({1, 1});
+    testing::internal::CaptureStderr();
+    jobs->connectTo("Silent\t\t");
+    settle();
+    jobs->connectTo("Silent\t\t");
+    jobs->cancel(); // without a message
+    settle();
+    testing::internal::GetCapturedStderr();
+    EXPECT_EQ(c.source + "/" + c.user + "/" + c.password, "Shop/ann/secret");
+    EXPECT_EQ(c.columns.size(), 6U);
+
+    jobs = std::make_unique<ConnectionJobs>(c, [](ConnectionJobs::Change) {}); // the connection is lost
+    jobs->listColumnsAfterKey(0);
+    EXPECT_EQ(jobs->doing(), "Connecting to Shop...");
+    settle();
+    EXPECT_EQ(c.listedTable, 0);
+    EXPECT_FALSE(c.columns.empty());
+    jobs.reset();
+    setCatalogueTimes({});
+    while (catalogueInUse())
+        std::this_thread::yield();
 }
 
 } // namespace
