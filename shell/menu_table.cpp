@@ -73,8 +73,8 @@ constexpr MenuRow contextRows[] = {
     {"cdash4", "-", 0, Command::None, ""},
     {"cprops", "Prop&erties...", 0, Command::ObjectProperties, ""},
     {"cshared", "Properties of &Many...", 0, Command::SharedProperties, ""},
-    {"cbindings", "Show &Bindings", 0, Command::ShowBindings, ""},
     {"cpageprops", "Pa&ge Properties...", 0, Command::PageProperties, ""},
+    {"cbindings", "S&how Bindings", 0, Command::ShowBindings, ""},
     {"ccheck", "Chec&k Page", 0, Command::CheckPage, ""},
     {"cpreview", "Previe&w in Browser", 0, Command::Preview, ""},
 };
