@@ -185,15 +185,13 @@ std::string typeText(const ToldColumn &told, std::int16_t type)
     return text + "(" + std::to_string(told.size) + (fraction ? "," + std::to_string(told.digits) : "") + ")";
 }
 
-} // namespace
-
-std::vector<OdbcTable> odbcTables(void *connection)
+// Of one catalogue. Asked for it, the driver may take its name for a pattern.
+std::vector<OdbcTable> toldTables(SQLHDBC connection, const std::u16string &catalogue, bool askForIt)
 {
     std::vector<OdbcTable> tables;
     OdbcHandle statement = newStatement(connection);
-    const std::u16string catalogue = currentCatalogue(connection);
-    if (!statement ||
-        !SQL_SUCCEEDED(SQLTablesW(statement.get(), argument(catalogue), SQL_NTS, nullptr, 0, nullptr, 0, nullptr, 0)))
+    if (!statement || !SQL_SUCCEEDED(SQLTablesW(statement.get(), askForIt ? argument(catalogue) : nullptr, SQL_NTS,
+                                                nullptr, 0, nullptr, 0, nullptr, 0)))
         return tables;
     bool sqlite = isSqlite(connection);
     while (SQL_SUCCEEDED(SQLFetch(statement.get()))) {
@@ -203,12 +201,21 @@ std::vector<OdbcTable> odbcTables(void *connection)
         table.driverName = textAt(statement.get(), 3);
         const std::string type = bytesOfUtf16(textAt(statement.get(), 4));
         table.view = type.ends_with("VIEW");
-        // The driver may have taken the catalogue for a pattern.
         const bool ours = catalogue.empty() || table.catalogue.empty() || table.catalogue == catalogue;
         if (ours && isListed(type, bytesOfUtf16(table.driverName), sqlite))
             tables.push_back(table);
     }
-    statement.reset(); // some drivers run one at a time
+    return tables;
+}
+
+} // namespace
+
+std::vector<OdbcTable> odbcTables(void *connection)
+{
+    const std::u16string catalogue = currentCatalogue(connection);
+    std::vector<OdbcTable> tables = toldTables(connection, catalogue, true);
+    if (tables.empty()) // a driver that tells a catalogue and knows none
+        tables = toldTables(connection, catalogue, false);
     std::vector<DriverTable> names;
     for (const OdbcTable &table : tables) // without a catalogue of the connection's own it tells the tables apart
         names.push_back({catalogue.empty() && table.schema.empty() ? table.catalogue : table.schema, table.driverName});

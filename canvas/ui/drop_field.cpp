@@ -72,10 +72,13 @@ void placeRows(Kind kind, const std::vector<DroppedColumn> &columns, const Place
         labels.push_back(sizeOfLabel(column));
     const LabelledRows rows = labelledRows(labels, sizeOfNew(kind), sizeOf(page()));
     const Rect whole = droppedRect({0, 0, rows.whole.width, rows.whole.height}, place(rows.whole), sizeOf(page()));
+    const auto onPage = [&whole](const Rect &r) { // more rows than the page has room for lie at its edge
+        return droppedRect(r, {whole.left + r.left, whole.top + r.top}, sizeOf(page()));
+    };
     std::vector<std::int16_t> added;
     for (std::size_t i = 0; i < columns.size(); ++i) {
-        added.push_back(addBound(Kind::Label, columns[i], movedBy(rows.rows[i].label, whole.left, whole.top)));
-        added.push_back(addBound(kind, columns[i], movedBy(rows.rows[i].field, whole.left, whole.top)));
+        added.push_back(addBound(Kind::Label, columns[i], onPage(rows.rows[i].label)));
+        added.push_back(addBound(kind, columns[i], onPage(rows.rows[i].field)));
     }
     std::erase(added, noObject);
     if (added.empty())

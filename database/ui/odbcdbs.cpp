@@ -204,7 +204,7 @@ bool Odbcdbs::eventFilter(QObject *watched, QEvent *event)
         kinds->pointerMoved(static_cast<QMouseEvent *>(event)->globalPosition().toPoint());
     if (watched == dbslist && event->type() == QEvent::KeyRelease && !static_cast<QKeyEvent *>(event)->isAutoRepeat())
         tableKeyReleased();
-    if (event->type() != QEvent::KeyPress)
+    if (event->type() != QEvent::KeyPress || static_cast<QKeyEvent *>(event)->isAutoRepeat())
         return QWidget::eventFilter(watched, event);
     const int key = static_cast<QKeyEvent *>(event)->key();
     if (watched == fldlist && (key == Qt::Key_Return || key == Qt::Key_Enter))

@@ -28,6 +28,7 @@ constexpr HelpRow rows[] = {
     {"toolbar1", "saving.html"},
     {"editform", "page-window.html"},
     {"odbcdbs", "odbc.html"},
+    {"tblrows", "odbc.html"},
     {"checkpg", "selecting.html#check"},
     {"manyobj", "selecting.html#common"},
     {"canvasmenu", "selecting.html#context"},
