@@ -135,8 +135,7 @@ void fetch(SQLHSTMT handle, const SqlLimits &limits, SqlResult &result)
             return;
         if (!SQL_SUCCEEDED(status))
             return takeDiagnosis(SQL_HANDLE_STMT, handle, result);
-        result.more = result.rows.size() >= limits.rows || bytes > limits.bytes || Clock::now() > end ||
-                      limits.cancelled.stop_requested();
+        result.more = result.rows.size() >= limits.rows || bytes > limits.bytes || Clock::now() > end;
         if (result.more)
             return;
         SqlRow row;
@@ -151,10 +150,10 @@ void fetch(SQLHSTMT handle, const SqlLimits &limits, SqlResult &result)
 // Drivers that know no time-out of their own are told to stop.
 class Watchdog {
 public:
-    Watchdog(SQLHSTMT handle, const SqlLimits &limits)
-        : watching([this, handle, time = limits.time, cancelled = limits.cancelled] {
+    Watchdog(SQLHSTMT handle, std::chrono::seconds time)
+        : watching([this, handle, time] {
               std::unique_lock lock(mutex);
-              if (!over.wait_for(lock, cancelled, time + grace, [this] { return ended; }))
+              if (!over.wait_for(lock, time + grace, [this] { return ended; }))
                   SQLCancel(handle);
           })
     {
@@ -174,7 +173,7 @@ public:
 private:
     static constexpr std::chrono::seconds grace{1}; // for the driver's own
     std::mutex mutex;
-    std::condition_variable_any over;
+    std::condition_variable over;
     bool ended = false;
     std::thread watching;
 };
@@ -184,7 +183,7 @@ void execute(SQLHSTMT handle, const SqlStatement &statement, Units units, const 
     SQLSetStmtAttr(handle, SQL_ATTR_QUERY_TIMEOUT,
                    reinterpret_cast<SQLPOINTER>(static_cast<SQLULEN>(limits.time.count())), 0);
     SQLSetStmtAttr(handle, SQL_ATTR_MAX_ROWS, reinterpret_cast<SQLPOINTER>(static_cast<SQLULEN>(limits.rows + 1)), 0);
-    const Watchdog watchdog(handle, limits);
+    const Watchdog watchdog(handle, limits.time);
     std::vector<Bound> bound(statement.parameters.size());
     for (std::size_t i = 0; i < bound.size(); ++i)
         if (!bind(handle, static_cast<SQLUSMALLINT>(i + 1), statement.parameters[i], units, bound[i]))

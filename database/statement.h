@@ -6,7 +6,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <stop_token>
 #include <string>
 #include <vector>
 
@@ -57,7 +56,6 @@ struct SqlLimits {
     std::size_t bytes = 16U << 20;  // of all texts together
     std::size_t textBytes = 65536;  // of one; what is beyond is cut
     std::chrono::seconds time{20};  // then the driver is told to stop
-    std::stop_token cancelled = {}; // the same at once
 };
 
 // What a connection is used for: one that reads undoes whatever a statement did.

@@ -3,7 +3,6 @@
 #include "actions/action_kinds.h"
 #include "canvas/selection.h"
 #include "database/catalogue.h"
-#include "database/table_preview.h"
 #include "document/events.h"
 #include "document/kinds.h"
 #include "document/objects.h"
@@ -185,7 +184,6 @@ void endSession()
     showHelp(HelpCommand::Quit);
     if (pageMenuMarks().odbcToolbar)
         markOdbcToolbar(false);
-    endTablePreviews();
     OdbcNameEndDll();
     tell(sessionSteps().unloadCanvas);
     showingCanvas.disconnect();

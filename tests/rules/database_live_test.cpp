@@ -1,6 +1,7 @@
 #include "database/catalogue.h"
 #include "database/connection.h"
 #include "database/sql.h"
+#include "database/statement.h"
 #include "database/table_preview.h"
 #include "document/page_file.h"
 #include "platform/codepage.h"
@@ -195,12 +196,22 @@ TEST_F(DatabaseLive, CancelledRowsAreNotWaitedFor)
     EXPECT_EQ(read->error, "");
     EXPECT_EQ(read->columns.size(), 1U);
     read.reset();
-    std::optional<TablePreview> slow(std::in_place, c, place("slow"), take); // for a minute
+    const OdbcHandle environment = openOdbc(), own = connectOdbc(environment.get(), c.source, c.user, c.password);
+    const SqlStatement running{
+        "Select Count(*) From pg_stat_activity Where query Like '%\"slow\"%' And state = 'active' "
+        "And pid <> pg_backend_pid()",
+        {}};
+    const auto untilRunning = [&](const std::string &count) {
+        while (readRows(own.get(), running).rows.at(0).at(0) != count)
+            runPostedJobs();
+    };
+    setCatalogueTimes({5, 3600});
+    std::optional<TablePreview> slow(std::in_place, c, place("slow"), take);
+    untilRunning("1");
     slow.reset();
-    endTablePreviews();
-    EXPECT_EQ(tablePreviewsRunning(), 0U);
-    runPostedJobs();
+    untilRunning("0");
     EXPECT_FALSE(read);
+    setCatalogueTimes({});
 }
 
 TEST_F(DatabaseLive, ADriverWithoutUnicodeTakesNamesInTheCodePage)

@@ -20,6 +20,6 @@ CREATE DATABASE west ENCODING 'LATIN1' TEMPLATE template0 LC_COLLATE 'C' LC_CTYP
 CREATE ROLE "jürgen" LOGIN PASSWORD 'schlüssel';
 CREATE TABLE "größe" ("länge" INTEGER);
 \connect shop
-CREATE VIEW slow AS SELECT pg_sleep(60)::text AS nothing;
+CREATE VIEW slow AS SELECT pg_sleep(3600)::text AS nothing;
 CREATE MATERIALIZED VIEW standing AS SELECT Name, City FROM Customers;
 CREATE ROLE reader LOGIN PASSWORD 'reader' IN ROLE pg_read_all_data;
