@@ -49,6 +49,16 @@ std::int32_t ParseInt32Clamped(std::string_view text)
     return static_cast<std::int32_t>(clamped(value, largest32));
 }
 
+std::string changedText(std::string_view text, const std::string &before)
+{
+    return text == before ? before : trimmed(text);
+}
+
+std::int16_t changedInt16(std::string_view text, std::int16_t before)
+{
+    return text == std::to_string(before) ? before : ParseInt16Clamped(text);
+}
+
 std::int32_t ParseColourText(std::string_view text)
 {
     if (!hexadecimal(trimmed(text)) && editing().msgflag)

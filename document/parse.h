@@ -4,7 +4,9 @@
 #include <string>
 #include <string_view>
 
-// Numbers and colours that an author types into dialogs.
+// Texts, numbers and colours that an author types into dialogs. What a field stores comes from the changed...
+// functions: a field that still reads as what is stored keeps it as it is, also a value that the field could not take
+// again.
 namespace corvanta {
 
 // The leading decimal number of a text, rounded with halves to even and clamped to -32767..32767; 0 when
@@ -13,6 +15,10 @@ std::int16_t ParseInt16Clamped(std::string_view text);
 
 // The same, clamped to -2147483647..2147483647. "&H" in front makes the digits hexadecimal.
 std::int32_t ParseInt32Clamped(std::string_view text);
+
+// The text without blanks around it, and the number that it begins with; the ones of before when it still reads so.
+std::string changedText(std::string_view text, const std::string &before);
+std::int16_t changedInt16(std::string_view text, std::int16_t before);
 
 // Hexadecimal colour digits without prefix as 0x00BBGGRR. Digits beyond 32 bits are told while msgflag is
 // set and read as 0.

@@ -45,10 +45,10 @@ std::optional<PlacementField> misplacedField(const CommonFields &f)
 
 void storeBinding(ObjectRecord &o, const CommonFields &f, bool bound)
 {
-    o.ctlname = bound ? trimmed(f.ctlname) : "";
-    o.datacol = bound ? trimmed(f.datacol) : "";
-    o.updatekey = bound ? trimmed(f.updatekey) : "";
-    o.condobjname = bound ? trimmed(f.condobjname) : "";
+    o.ctlname = bound ? changedText(f.ctlname, o.ctlname) : "";
+    o.datacol = bound ? changedText(f.datacol, o.datacol) : "";
+    o.updatekey = bound ? changedText(f.updatekey, o.updatekey) : "";
+    o.condobjname = bound ? changedText(f.condobjname, o.condobjname) : "";
 }
 
 } // namespace
@@ -94,13 +94,13 @@ void StoreCommonProperties(std::int16_t index, const CommonFields &fields, std::
     const auto kind = kindOf(o.kind);
     setObjectGeometry(index, ParseInt16Clamped(fields.ptop), ParseInt16Clamped(fields.pleft),
                       ParseInt16Clamped(fields.pheight), ParseInt16Clamped(fields.pwidth));
-    o.keyreq = trimmed(fields.keyreq);
-    o.sptext = trimmed(fields.sptext);
+    o.keyreq = changedText(fields.keyreq, o.keyreq);
+    o.sptext = changedText(fields.sptext, o.sptext);
     o.actlist = withTopPage(workingAction);
     if (kind && kindRow(*kind).hasAlignment)
         o.alignment = static_cast<std::int16_t>(fields.alignment);
     if (kind && kindRow(*kind).hasTabIndex)
-        o.tbindex = ParseInt16Clamped(fields.tbindex);
+        o.tbindex = changedInt16(fields.tbindex, o.tbindex);
     storeBinding(o, fields, kind && kindRow(*kind).hasBinding);
     editing().pagedirty = true;
 }

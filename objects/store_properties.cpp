@@ -8,6 +8,9 @@
 #include "platform/asking.h"
 #include "platform/text.h"
 
+#include <algorithm>
+#include <tuple>
+
 namespace corvanta {
 
 namespace {
@@ -21,15 +24,20 @@ struct Target {
     Kind kind;
     ObjectRecord &record;
     Element *element;
-    std::size_t number; // of the element
+    std::size_t number;   // of the element
+    PropertyFields shown; // when the dialog opened
 };
 
 Target targetOf(std::int16_t index)
 {
     Page &p = page();
     const auto i = static_cast<std::size_t>(index);
-    return {index, *kindOf(p.objects[i].kind), p.objects[i], elementOf(p, index),
-            static_cast<std::size_t>(p.ctlindex[i])};
+    return {index,
+            *kindOf(p.objects[i].kind),
+            p.objects[i],
+            elementOf(p, index),
+            static_cast<std::size_t>(p.ctlindex[i]),
+            LoadProperties(index)};
 }
 
 Confirmation inRange(const std::string &text, int low, int high, const char *message, const char *control)
@@ -91,28 +99,36 @@ Confirmation checkColour(Kind kind, const PropertyFields &f)
     return {!shown || CheckColourText(f.col, invalidField(kind, "BackColor")), "col"};
 }
 
+// A check box that was left alone keeps the number that it stands for.
+void storeCheck(std::int16_t &stored, bool shown, bool checked, std::int16_t on, std::int16_t off)
+{
+    if (checked != shown)
+        stored = checked ? on : off;
+}
+
 void storeButton(const Target &t, const PropertyFields &f)
 {
-    t.element->Caption = trimmed(f.cap);
-    t.element->BevelWidth = ParseInt16Clamped(f.bwidth);
+    t.element->Caption = changedText(f.cap, t.element->Caption);
+    t.element->BevelWidth = changedInt16(f.bwidth, t.element->BevelWidth);
     t.element->picture = nullptr;
-    t.record.srcfile = trimmed(f.imgfn);
+    t.record.srcfile = changedText(f.imgfn, t.record.srcfile);
     page().butextras[t.number] = {f.viewcond, f.enacond, f.credits, f.auditmsg, f.balhelp};
 }
 
 void storeLabel(const Target &t, const PropertyFields &f)
 {
-    t.element->Caption = trimmed(f.cap);
-    t.element->BackStyle = f.trans ? 0 : 1;
-    t.element->BorderStyle = f.bstyle ? 1 : 0;
+    t.element->Caption = changedText(f.cap, t.element->Caption);
+    storeCheck(t.element->BackStyle, t.shown.trans, f.trans, 0, 1);
+    storeCheck(t.element->BorderStyle, t.shown.bstyle, f.bstyle, 1, 0);
     setFlag(t.record, hoverFlag, f.hover);
 }
 
 void storeTextBox(const Target &t, const PropertyFields &f)
 {
+    TextBoxExtras &x = page().tbxextras[t.number];
     t.record.srcfile = f.txtfn;
-    page().tbxextras[t.number] = {static_cast<std::int16_t>(f.inptype), static_cast<std::int16_t>(f.sysobj - 1),
-                                  ParseInt16Clamped(f.maxlen)};
+    x = {static_cast<std::int16_t>(f.inptype), static_cast<std::int16_t>(f.sysobj - 1),
+         changedInt16(f.maxlen, x.maxlen)};
     setFlag(t.record, multiFlag, f.multi);
 }
 
@@ -132,9 +148,10 @@ void storeGrid(const PropertyFields &f)
 
 void storeTicker(const Target &t, const PropertyFields &f)
 {
-    t.element->Caption = trimmed(f.cap);
-    t.element->BorderStyle = f.bstyle ? 1 : 0;
-    page().tkrextras[t.number] = ParseInt16Clamped(f.speed);
+    std::int16_t &speed = page().tkrextras[t.number];
+    t.element->Caption = changedText(f.cap, t.element->Caption);
+    storeCheck(t.element->BorderStyle, t.shown.bstyle, f.bstyle, 1, 0);
+    speed = changedInt16(f.speed, speed);
 }
 
 void storeKindFields(const Target &t, const PropertyFields &f)
@@ -145,13 +162,19 @@ void storeKindFields(const Target &t, const PropertyFields &f)
     case Kind::ListBox: page().lbxextras[t.number] = f.listEntries; return;
     case Kind::Label: return storeLabel(t, f);
     case Kind::TextBox: storeTextBox(t, f); return storeEntryFlags(t, f);
-    case Kind::Image: t.record.srcfile = trimmed(f.imgfn); return setFlag(t.record, hoverFlag, f.hover);
+    case Kind::Image:
+        t.record.srcfile = changedText(f.imgfn, t.record.srcfile);
+        return setFlag(t.record, hoverFlag, f.hover);
     case Kind::Ticker: return storeTicker(t, f);
     case Kind::Grid: return storeGrid(f);
-    case Kind::ImageDb: t.record.srcfile = trimmed(f.imgpath); return setFlag(t.record, readonlyFlag, f.readonly);
+    case Kind::ImageDb:
+        t.record.srcfile = changedText(f.imgpath, t.record.srcfile);
+        return setFlag(t.record, readonlyFlag, f.readonly);
     case Kind::ComboBox: page().cbxextras[t.number] = f.comboEntries; return;
     case Kind::File: t.record.srcfile = f.filepath; return storeEntryFlags(t, f);
-    case Kind::Url: t.element->Caption = trimmed(f.url); return setFlag(t.record, hoverFlag, f.hover);
+    case Kind::Url:
+        t.element->Caption = changedText(f.url, t.element->Caption);
+        return setFlag(t.record, hoverFlag, f.hover);
     case Kind::Animation: return;
     }
 }
@@ -178,6 +201,12 @@ std::string frameFiles(const std::vector<Frame> &frames)
     return files;
 }
 
+bool sameFrame(const Frame &a, const Frame &b)
+{
+    return std::tie(a.top, a.left, a.duration, a.image, a.sound) ==
+           std::tie(b.top, b.left, b.duration, b.image, b.sound);
+}
+
 // An animation stands where its first frame stands.
 void followFirstFrame(const Target &t, const std::vector<Frame> &before, const std::vector<Frame> &after)
 {
@@ -187,18 +216,24 @@ void followFirstFrame(const Target &t, const std::vector<Frame> &before, const s
     t.record.pleft = t.element->left = after[0].left;
 }
 
+void storeAllFrames(const Target &t, const std::vector<Frame> &frames)
+{
+    if (std::ranges::equal(frames, t.shown.frames, sameFrame))
+        return;
+    t.record.srcfile = frameFiles(frames);
+    storeFrames(page(), t.index, frames);
+    followFirstFrame(t, t.shown.frames, frames);
+}
+
 void storeAnimation(const Target &t, const PropertyFields &f)
 {
-    const std::vector<Frame> before = framesOf(page(), t.index);
     AnimationExtras &x = page().aniextras[t.number];
-    x.nplay = ParseInt16Clamped(f.nplay);
-    x.frozen = f.frozen ? 1 : 0;
-    x.strictime = f.strictime ? 1 : 0;
-    t.record.srcfile = frameFiles(f.frames);
-    storeFrames(page(), t.index, f.frames);
-    followFirstFrame(t, before, f.frames);
-    t.record.keyreq = trimmed(f.keyreq);
-    t.record.sptext = trimmed(f.sptext);
+    x.nplay = changedInt16(f.nplay, x.nplay);
+    storeCheck(x.frozen, t.shown.frozen, f.frozen, 1, 0);
+    storeCheck(x.strictime, t.shown.strictime, f.strictime, 1, 0);
+    storeAllFrames(t, f.frames);
+    t.record.keyreq = changedText(f.keyreq, t.record.keyreq);
+    t.record.sptext = changedText(f.sptext, t.record.sptext);
     t.record.actlist = withTopPage(f.action);
     setFlag(t.record, hoverFlag, f.hover);
 }

@@ -43,9 +43,11 @@ PageConfirmation checkPicture(const PicturePtr &picture, ScreenSize screen)
     return {true, ""};
 }
 
-std::int16_t flagsOf(const PagePropertyFields &f)
+// The flags of the dialog; the page's other ones stay.
+std::int16_t flagsOf(const PagePropertyFields &f, std::int16_t before)
 {
-    int flags = f.sizeTyped ? 0 : sizeFromImage;
+    int flags = before & ~(sizeFromImage | rtlFlag | anonymousFlag | replaceHtmlFlag);
+    flags |= f.sizeTyped ? 0 : sizeFromImage;
     flags |= f.rtl ? rtlFlag : 0;
     flags |= f.anonymous ? anonymousFlag : 0;
     flags |= f.replacehtml ? replaceHtmlFlag : 0;
@@ -55,12 +57,12 @@ std::int16_t flagsOf(const PagePropertyFields &f)
 void storeBackground(Page &p, const PagePropertyFields &f, const PicturePtr &picture)
 {
     const bool sizeOfPicture = picture && !f.sizeTyped;
-    p.bkgfile = trimmed(f.imgfn);
+    p.bkgfile = changedText(f.imgfn, p.bkgfile);
     p.bkgcol = changedColour(f.bkgcol, p.bkgcol);
     p.bkght = sizeOfPicture ? static_cast<std::int16_t>(picture->height) : ParseInt16Clamped(f.bkght);
     p.bkgwd = sizeOfPicture ? static_cast<std::int16_t>(picture->width) : ParseInt16Clamped(f.bkgwd);
     p.background = picture;
-    p.sndfn = trimmed(f.sndfn);
+    p.sndfn = changedText(f.sndfn, p.sndfn);
 }
 
 // The connection text always has exactly three tabs, whatever was pasted into its fields.
@@ -77,7 +79,7 @@ std::string joinedConnection(std::initializer_list<std::string> parts)
 
 void storeFields(Page &p, const PagePropertyFields &f)
 {
-    p.pgflags = flagsOf(f);
+    p.pgflags = flagsOf(f, p.pgflags);
     p.PageType = static_cast<std::int16_t>(f.PageType);
     p.dbconnect = joinedConnection({f.dsn, f.Username, f.Password, f.deftbl});
     p.SelectStmt = f.SelectStmt;

@@ -3,6 +3,8 @@
 #include "document/tablist.h"
 #include "platform/text.h"
 
+#include <algorithm>
+
 namespace corvanta {
 
 std::string &inputparam()
@@ -13,7 +15,9 @@ std::string &inputparam()
 
 InputTexts inputTexts(std::string_view parameter)
 {
-    return {fieldAt(parameter, 0), fieldAt(parameter, 1), fieldAt(parameter, 2)};
+    const std::string prompt = fieldAt(parameter, 0), caption = fieldAt(parameter, 1);
+    const std::size_t start = prompt.size() + caption.size() + 2;
+    return {prompt, caption, std::string(parameter.substr(std::min(start, parameter.size())))};
 }
 
 bool inputAccepted(std::string_view text) { return !trimmed(text).empty(); }

@@ -6,7 +6,8 @@
 // The exchange with the one-line input dialog.
 namespace corvanta {
 
-// Prompt, caption and initial text, tab-separated, while the dialog opens; its result when it has closed.
+// Prompt, caption and initial text, tab-separated (the text may hold tabs itself), while the dialog opens; its result
+// when it has closed.
 std::string &inputparam();
 
 struct InputTexts {

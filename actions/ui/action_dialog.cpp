@@ -2,7 +2,9 @@
 
 #include "actions/action_choice.h"
 #include "actions/action_kinds.h"
+#include "document/page.h"
 #include "platform/qt/text.h"
+#include "platform/qt/text_limit.h"
 #include "platform/text.h"
 
 #include <QLineEdit>
@@ -16,6 +18,7 @@ namespace corvanta {
 namespace {
 
 constexpr int leastWidth = 50; // characters
+static_assert(mostTextBytes == fileLimit);
 
 void enableWithText(QPushButton &ok, QLineEdit &field)
 {
@@ -39,8 +42,11 @@ Group ActionDialog::addParameters()
 
 bool ActionDialog::run(QWidget &first, const std::function<std::string()> &okText, const char *cancelName)
 {
-    const auto buttons =
-        addButtons(*this, {{"ok", "OK", [this] { accept(); }}, {cancelName, "Cancel", [this] { reject(); }}});
+    const auto confirm = [this, &okText] {
+        if (checkTextLengths(*this) && checkTextLength(okText().size(), "Action", toBytes(windowTitle())))
+            accept();
+    };
+    const auto buttons = addButtons(*this, {{"ok", "OK", confirm}, {cancelName, "Cancel", [this] { reject(); }}});
     if (required)
         enableWithText(*buttons.front(), *required);
     first.setFocus();

@@ -24,7 +24,7 @@ public:
     void requireText(QLineEdit &field) { required = &field; }
 
     // Adds OK and Cancel, and shows the dialog modally with its focus on the first field. After OK the result becomes
-    // okText(); true then.
+    // okText(); true then. A text that a page file could not hold is refused, with the dialog's input kept.
     bool run(QWidget &first, const std::function<std::string()> &okText, const char *cancelName = "cancel");
 
     std::string result; // the input, until OK

@@ -15,6 +15,7 @@ namespace corvanta {
 
 namespace {
 
+// Offers the Image DB objects, and shows the stored name whether it is one of theirs or a file's.
 QComboBox *addObjectChoice(Fields &fields, const std::string &stored)
 {
     QComboBox *fileobj = addComboRow(fields, "fileobj", {});
@@ -30,6 +31,8 @@ QComboBox *addObjectChoice(Fields &fields, const std::string &stored)
     const int found = stored.empty() ? -1 : fileobj->findText(toQString(stored));
     if (found >= 0)
         fileobj->setCurrentIndex(found);
+    else if (!stored.empty())
+        fileobj->setEditText(toQString(stored));
     return fileobj;
 }
 

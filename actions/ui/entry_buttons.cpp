@@ -88,10 +88,7 @@ void addEntryCommands(QBoxLayout &layout, const char *name, const Commands &comm
         rows.push_back({names[i].c_str(), captionOf(commands[i]),
                         [edit, command = commands[i], &list] { edit(command, list.currentRow()); }});
     const std::vector<QPushButton *> buttons = addButtonRow(layout, rows);
-    // The toolkit makes an entry current, but does not select it, when the list gets the focus.
     const auto update = [commands, buttons, &list] {
-        if (list.currentItem())
-            list.currentItem()->setSelected(true);
         for (std::size_t i = 0; i < commands.size(); ++i)
             buttons[i]->setEnabled(!needsSelection(commands[i]) || list.currentRow() >= 0);
     };
@@ -111,6 +108,8 @@ void showLines(QListWidget &list, const std::vector<std::string> &texts, int sel
         for (const std::string &text : texts)
             list.addItem(toQString(text));
         list.setCurrentRow(selected);
+        if (selected < 0)
+            list.setCurrentIndex({}); // else the toolkit makes the first current when the list gets the focus
     }
     emit list.currentRowChanged(list.currentRow());
 }

@@ -1,7 +1,7 @@
 #include "actions/ui/parameter_fields.h"
 
+#include "document/parse.h"
 #include "platform/qt/text.h"
-#include "platform/text.h"
 
 #include <QDialog>
 #include <QKeyEvent>
@@ -43,7 +43,7 @@ std::function<std::string()> holds(std::function<QString()> get, const std::stri
 
 } // namespace
 
-ParameterFields::ParameterFields(const std::string &actionText) : action(decodeAction(actionText)) {}
+ParameterFields::ParameterFields(const std::string &actionText) : input(actionText), action(decodeAction(actionText)) {}
 
 QLineEdit *ParameterFields::addLine(Fields &fields, const char *name, const QString &label)
 {
@@ -67,9 +67,10 @@ QPlainTextEdit *ParameterFields::addStatement(Fields &fields, const char *name)
 std::string ParameterFields::text() const
 {
     Action edited{action.code, {}};
-    for (const auto &value : values)
-        edited.values.push_back(trimmed(value()));
-    return encodeAction(edited);
+    for (std::size_t i = 0; i < values.size(); ++i)
+        edited.values.push_back(changedText(values[i](), action.values[i]));
+    const std::string text = encodeAction(edited);
+    return edited.values == action.values && input.starts_with(text) ? input : text;
 }
 
 } // namespace corvanta

@@ -24,10 +24,12 @@ public:
     // The action's value for the field that is added next.
     const std::string &nextValue() const { return action.values.at(values.size()); }
 
-    // The action text with what the fields hold, without leading and trailing blanks.
+    // The action text with what the fields hold, without leading and trailing blanks where the author has changed
+    // them. A complete text whose fields were all left alone stays as it is, also what follows its parameters.
     std::string text() const;
 
 private:
+    std::string input;
     Action action;
     std::vector<std::function<std::string()>> values;
 };

@@ -4,7 +4,6 @@
 #include "objects/ui/dialogs.h"
 #include "objects/ui/media_row.h"
 #include "platform/qt/text.h"
-#include "platform/text.h"
 
 #include <QCheckBox>
 #include <QLabel>
@@ -26,9 +25,9 @@ struct FrameFields {
     int shown = -1; // the frame whose fields are shown; -1 none
 };
 
-std::int16_t numberIn(const QLineEdit &field) { return ParseInt16Clamped(toBytes(field.text())); }
+void takeNumber(const QLineEdit &field, std::int16_t &value) { value = changedInt16(toBytes(field.text()), value); }
 
-std::string textIn(const QLineEdit &field) { return trimmed(toBytes(field.text())); }
+void takeText(const QLineEdit &field, std::string &value) { value = changedText(toBytes(field.text()), value); }
 
 // Copies the fields into the frame that they show.
 void TakeFrameFields(FrameFields &f)
@@ -38,12 +37,12 @@ void TakeFrameFields(FrameFields &f)
         return;
     Frame &frame = frames[static_cast<std::size_t>(f.shown)];
     if (f.ptop->isEnabled())
-        frame.top = numberIn(*f.ptop);
+        takeNumber(*f.ptop, frame.top);
     if (f.pleft->isEnabled())
-        frame.left = numberIn(*f.pleft);
-    frame.image = textIn(*f.imgfn);
-    frame.sound = textIn(*f.sndfn);
-    frame.duration = numberIn(*f.duration);
+        takeNumber(*f.pleft, frame.left);
+    takeText(*f.imgfn, frame.image);
+    takeText(*f.sndfn, frame.sound);
+    takeNumber(*f.duration, frame.duration);
 }
 
 void showField(QLineEdit &field, const char *label, const QString &text, bool enabled, bool anyFrame)

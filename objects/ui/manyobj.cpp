@@ -6,6 +6,7 @@
 #include "objects/ui/property_dialog.h"
 #include "platform/asking.h"
 #include "platform/qt/text.h"
+#include "platform/qt/text_limit.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -168,6 +169,8 @@ void SharedDialog::watchFlag(std::size_t field, QCheckBox &box)
 
 void SharedDialog::confirm()
 {
+    if (!checkTextLengths(*this, "Properties Error"))
+        return;
     const Confirmation confirmation = ConfirmSharedProperties(indices, shared.values, touched);
     if (confirmation.stored)
         return accept();

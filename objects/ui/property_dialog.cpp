@@ -1,10 +1,11 @@
 #include "objects/ui/property_dialog.h"
 
 #include "actions/action_choice.h"
+#include "document/parse.h"
 #include "platform/help.h"
 #include "platform/qt/text.h"
+#include "platform/qt/text_limit.h"
 #include "platform/qt/tied_text.h"
-#include "platform/text.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -65,19 +66,21 @@ void PropertyDialog::selectFirstField()
         }
 }
 
-// The image name of a Button or Image is shown as it is checked: without blanks around it.
+// A changed image name of a Button or Image is shown as it is checked: without blanks around it.
 void PropertyDialog::trimFileName()
 {
     auto *imgfn = findChild<QLineEdit *>("imgfn");
     if (!imgfn || objectKind == Kind::Animation)
         return;
-    const QString plain = toQString(trimmed(toBytes(imgfn->text())));
-    if (plain.size() != imgfn->text().size())
-        imgfn->setText(plain);
+    const std::string name = changedText(toBytes(imgfn->text()), values.imgfn);
+    if (name.size() != static_cast<std::size_t>(imgfn->text().size()))
+        imgfn->setText(toQString(name));
 }
 
 void PropertyDialog::confirm()
 {
+    if (!checkTextLengths(*this, "Properties Error"))
+        return;
     trimFileName();
     for (const auto &take : takes)
         take();

@@ -10,6 +10,7 @@
 #include "platform/qt/dialogs.h"
 #include "platform/qt/drop_target.h"
 #include "platform/qt/text.h"
+#include "platform/qt/text_limit.h"
 #include "platform/text.h"
 
 #include <QBoxLayout>
@@ -150,6 +151,8 @@ void PageDialog::load()
 
 void PageDialog::confirm()
 {
+    if (!checkTextLengths(*this, "Properties Error"))
+        return;
     for (const TiedField &field : texts)
         values.*field.member = field.control.bytes();
     values.sizeTyped = bkght->isEnabled();

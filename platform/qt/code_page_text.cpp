@@ -11,6 +11,8 @@
 #include <QPlainTextEdit>
 #include <QValidator>
 
+#include <limits>
+
 namespace corvanta {
 
 namespace {
@@ -72,6 +74,7 @@ protected:
 
 void keepInCodePage(QLineEdit &field)
 {
+    field.setMaxLength(std::numeric_limits<int>::max()); // what is too long is told at OK, not cut
     field.setValidator(new CodePageText(field));
     QObject::connect(&field, &QLineEdit::textEdited, &field, [&field] { showNotice(field, {}); });
 }

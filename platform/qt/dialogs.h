@@ -108,6 +108,7 @@ void followEnabled(QWidget &beside, QWidget &field);
 // After a message: the focus goes to the control that it is about, with all its text selected. An empty name, or one
 // that the dialog does not have, leaves it where it is.
 void returnToField(QWidget &dialog, const std::string &name);
+void returnToField(QWidget &field);
 
 // A short word about a field, at the bottom of its dialog; beside the field in a window without one. Empty clears it.
 void showNotice(QWidget &field, const QString &text);

@@ -315,13 +315,16 @@ void followEnabled(QWidget &beside, QWidget &field)
 
 void returnToField(QWidget &dialog, const std::string &name)
 {
-    auto *field = name.empty() ? nullptr : dialog.findChild<QWidget *>(QString::fromStdString(name));
-    if (!field)
-        return;
-    field->setFocus();
-    if (auto *line = qobject_cast<QLineEdit *>(field))
+    if (auto *field = name.empty() ? nullptr : dialog.findChild<QWidget *>(QString::fromStdString(name)))
+        returnToField(*field);
+}
+
+void returnToField(QWidget &field)
+{
+    field.setFocus();
+    if (auto *line = qobject_cast<QLineEdit *>(&field))
         line->selectAll();
-    else if (auto *area = qobject_cast<QPlainTextEdit *>(field))
+    else if (auto *area = qobject_cast<QPlainTextEdit *>(&field))
         area->selectAll();
 }
 

@@ -5,6 +5,7 @@
 #include "platform/qt/dialogs.h"
 #include "platform/qt/fonts.h"
 #include "platform/qt/text.h"
+#include "platform/qt/text_limit.h"
 #include "platform/text.h"
 
 #include <QCheckBox>
@@ -29,7 +30,8 @@ struct FontControls {
     QLabel *sample;
 };
 
-QString sizeText(float points) { return QString::number(static_cast<double>(points), 'g', 6); }
+// A size that no font can have is shown as the one that is used instead.
+QString sizeText(float points) { return QString::number(static_cast<double>(usableFontSize(points)), 'g', 6); }
 
 void addFace(QBoxLayout &layout, FontControls &controls)
 {
@@ -79,12 +81,13 @@ void load(FontControls &controls, const FontChoice &choice)
 }
 
 // Takes the controls' values over, except for what still reads as it was loaded.
-void take(const FontControls &controls, FontChoice &choice)
+void take(const FontControls &controls, const FontChoice &initial, FontChoice &choice)
 {
-    if (controls.name->currentText() != toQString(choice.FontName))
-        choice.FontName = toBytes(controls.name->currentText().trimmed());
-    if (controls.size->currentText() != sizeText(choice.FontSize))
-        choice.FontSize = static_cast<float>(leadingNumber(toBytes(controls.size->currentText().replace(',', '.'))));
+    const QString name = controls.name->currentText(), size = controls.size->currentText();
+    choice.FontName = name == toQString(initial.FontName) ? initial.FontName : toBytes(name.trimmed());
+    choice.FontSize = size == sizeText(initial.FontSize)
+                          ? initial.FontSize
+                          : static_cast<float>(leadingNumber(toBytes(QString(size).replace(',', '.'))));
     choice.FontBold = controls.bold->isChecked();
     choice.FontItalic = controls.italic->isChecked();
     choice.FontStrikethru = controls.strikethru->isChecked();
@@ -112,9 +115,12 @@ void whenChanged(const FontControls &controls, const std::function<void()> &chan
         QObject::connect(box, &QCheckBox::toggled, box, changed);
 }
 
-bool isUsable(const FontChoice &choice)
+// What was left alone is taken, whatever it is.
+bool isUsable(const FontChoice &choice, const FontChoice &initial)
 {
-    return !choice.FontName.empty() && choice.FontSize >= 1 && usableFontSize(choice.FontSize) == choice.FontSize;
+    const bool named = !choice.FontName.empty() || initial.FontName.empty();
+    const bool sized = choice.FontSize >= 1 && usableFontSize(choice.FontSize) == choice.FontSize;
+    return named && (sized || choice.FontSize == initial.FontSize);
 }
 
 } // namespace
@@ -122,20 +128,22 @@ bool isUsable(const FontChoice &choice)
 std::optional<FontChoice> showFontDialog(const FontChoice &initial, QWidget *owner)
 {
     FontChoice choice = initial;
-    choice.FontSize = usableFontSize(initial.FontSize);
     QDialog dialog(owner);
     FontControls controls{};
     QVBoxLayout *contents = startDialog(dialog, "fontdlg", "Font");
     addFace(*contents, controls);
     addStyles(*contents, controls);
     addSample(*contents, controls);
+    const auto confirm = [&dialog] {
+        if (checkTextLengths(dialog))
+            dialog.accept();
+    };
     QPushButton *ok =
-        addButtons(dialog, {{"ok", "OK", [&] { dialog.accept(); }}, {"cancbut", "Cancel", [&] { dialog.reject(); }}})
-            .front();
+        addButtons(dialog, {{"ok", "OK", confirm}, {"cancbut", "Cancel", [&] { dialog.reject(); }}}).front();
     load(controls, choice);
     const auto update = [&] {
-        take(controls, choice);
-        ok->setEnabled(isUsable(choice) && controls.name->lineEdit()->hasAcceptableInput());
+        take(controls, initial, choice);
+        ok->setEnabled(isUsable(choice, initial) && controls.name->lineEdit()->hasAcceptableInput());
         showSample(controls, choice);
     };
     whenChanged(controls, update);

@@ -3,6 +3,7 @@
 #include "platform/qt/code_page_text.h"
 #include "platform/qt/dialogs.h"
 #include "platform/qt/text.h"
+#include "platform/qt/text_limit.h"
 #include "platform/text.h"
 #include "shell/input.h"
 
@@ -28,8 +29,9 @@ Hpsinput::Hpsinput()
     auto *prompt = new QLabel(toQString(doubleAmpersands(texts.prompt)), this);
     prompt->setObjectName(QStringLiteral("Label1"));
     prompt->setTextFormat(Qt::PlainText);
-    inplin = new QLineEdit(toQString(texts.text), this);
+    inplin = new QLineEdit(this);
     keepInCodePage(*inplin);
+    inplin->setText(toQString(texts.text));
     inplin->setObjectName(QStringLiteral("inplin"));
     inplin->setAccessibleName(toQString(texts.prompt));
     inplin->setMinimumWidth(lineWidth);
@@ -38,7 +40,7 @@ Hpsinput::Hpsinput()
     contents->addWidget(prompt);
     contents->addWidget(inplin);
     const auto buttons =
-        addButtons(*this, {{"ok", "OK", [this] { accept(); }}, {"cancel", "Cancel", [this] { reject(); }}});
+        addButtons(*this, {{"ok", "OK", [this] { confirm(); }}, {"cancel", "Cancel", [this] { reject(); }}});
     ok = buttons.front();
     const auto allow = [this] { ok->setEnabled(inputAccepted(toBytes(inplin->text()))); };
     connect(inplin, &QLineEdit::textChanged, this, allow);
@@ -46,6 +48,12 @@ Hpsinput::Hpsinput()
     allow();
     inplin->setFocus();
     CentreDialog(*this);
+}
+
+void Hpsinput::confirm()
+{
+    if (checkTextLengths(*this))
+        accept();
 }
 
 std::string showInput(const std::string &parameter)

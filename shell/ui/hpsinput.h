@@ -15,6 +15,8 @@ public:
     Hpsinput();
 
 private:
+    void confirm();
+
     QLineEdit *inplin = nullptr;
     QPushButton *ok = nullptr;
 };

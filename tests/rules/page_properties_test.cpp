@@ -5,8 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <limits>
-
 namespace corvanta {
 namespace {
 
@@ -53,18 +51,6 @@ protected:
     TemporaryDrive drive;
     PicturePtr picture;
 };
-
-TEST_F(PageProperties, ConfirmingUntouchedChangesNoByte)
-{
-    page().dbconnect = "Orders\tclerk\ts3cret\tOrder Lines";
-    page().pgflags = rtlFlag | anonymousFlag;
-    page().PageType = 4;
-    page().bkgcol = std::numeric_limits<std::int32_t>::min(); // a system colour
-    const std::string before = serialisePage(page());
-    ASSERT_TRUE(ConfirmPageProperties(LoadPageProperties(page()), screen).stored);
-    EXPECT_EQ(serialisePage(page()), before);
-    EXPECT_TRUE(editing().pagedirty);
-}
 
 TEST_F(PageProperties, FaultsAreToldInOrderAndNothingIsWritten)
 {

@@ -142,12 +142,9 @@ TEST(ActionDialogs, KindsWithoutADialogPassThrough)
     EXPECT_EQ(EditAction(""), "");
 }
 
-TEST(ActionDialogs, AStatementLeftAloneKeepsItsBytes)
+TEST(ActionDialogs, ShiftEnterStartsALine)
 {
-    const std::string statement = "Select *\r\n  From\t\xA0 a\n";
-    const std::string text = encodeAction({action::executeSql, {statement}});
-    EXPECT_EQ(edited(text, "sqlpact", confirm), text);
-    const std::string result = edited(text, "sqlpact", [](QWidget &window) {
+    const std::string result = edited(encodeInt16(action::executeSql), "sqlpact", [](QWidget &window) {
         type(window, "sqlstmt", "one");
         QTest::keyClick(window.focusWidget(), Qt::Key_Return, Qt::ShiftModifier);
         QTest::keyClicks(window.focusWidget(), "two");
@@ -277,10 +274,16 @@ TEST_F(ActionDialogsOnAPage, GeneratesTheStatement)
               "Select name From addresses Where addresses.city Like '@city@%' order by name");
 }
 
-TEST_F(ActionDialogsOnAPage, FilesComeFromTheImageDatabases)
+TEST_F(ActionDialogsOnAPage, FilesAreStoredOnesOrComeFromTheImageDatabases)
 {
-    EXPECT_EQ(edited(encodeAction({action::uploadFile, {"gone"}}), "dwnlpact", confirm),
-              encodeAction({action::uploadFile, {""}}));
+    const std::string readme = encodeAction({action::downloadFile, {"readme.txt"}});
+    const auto showsReadme = [](QWidget &window) {
+        EXPECT_EQ(find<QComboBox>(window, "fileobj").currentText(), "readme.txt");
+        confirm(window);
+    };
+    EXPECT_EQ(edited(readme, "dwnlpact", showsReadme), readme);
+    const std::string none = encodeAction({action::downloadFile, {""}});
+    EXPECT_EQ(edited(none, "dwnlpact", confirm), none);
     for (const Kind kind : {Kind::ImageDb, Kind::Button, Kind::ImageDb})
         addObject(kind);
     object(0).ctlname = "first";
@@ -295,9 +298,9 @@ TEST_F(ActionDialogsOnAPage, FilesComeFromTheImageDatabases)
         confirm(window);
     };
     EXPECT_EQ(edited(upload, "dwnlpact", offersBoth), upload);
-    const std::string gone = encodeAction({action::downloadFile, {"gone"}});
-    EXPECT_EQ(edited(gone, "dwnlpact", confirm), encodeAction({action::downloadFile, {"first"}}));
-    EXPECT_EQ(edited(gone, "dwnlpact", cancel), gone);
+    EXPECT_EQ(edited(readme, "dwnlpact", showsReadme), readme);
+    EXPECT_EQ(edited(none, "dwnlpact", confirm), encodeAction({action::downloadFile, {"first"}}));
+    EXPECT_EQ(edited(none, "dwnlpact", cancel), none);
 
     drive.add("FILES/x");
     user.expectFileDialog(FileDialog::Kind::Open, {});

@@ -71,6 +71,9 @@ TEST_F(ActionLists, EntriesAreAddedInsertedEditedAndDeleted)
 {
     driver.expect("listpact", [](QWidget &window) {
         EXPECT_EQ(captions(window), (QStringList{"Get next record", ""}));
+        EXPECT_EQ(window.focusWidget()->objectName(), "listedit");
+        EXPECT_EQ(find<QListWidget>(window, "listedit").currentRow(), -1);
+        EXPECT_FALSE(find<QPushButton>(window, "lstbut1").isEnabled());
         press(window, "lstbut0");
         EXPECT_EQ(captions(window), (QStringList{"Get next record", "", "Close Page"}));
         select(window, 1);

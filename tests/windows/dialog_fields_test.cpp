@@ -9,8 +9,6 @@
 #include <QPlainTextEdit>
 #include <QTest>
 
-#include <limits>
-
 namespace corvanta {
 namespace {
 
@@ -39,21 +37,6 @@ std::vector<std::optional<Kind>> colouredDialogs()
         if (hasColour(*kindOf(code)))
             dialogs.push_back(kindOf(code));
     return dialogs;
-}
-
-TEST_F(DialogFields, OkUntouchedKeepsEveryColour)
-{
-    page().dbconnect = "\t\t\t";
-    for (const auto kind : colouredDialogs()) {
-        const std::int16_t index = kind ? addObject(*kind) : noObject;
-        const auto confirm = [](QDialog &d) { press(d, "ok"); };
-        for (const std::int32_t colour : {std::numeric_limits<std::int32_t>::min(), -1, -0x7FFFFFFB, 0x12345678, 0}) {
-            (kind ? elementOf(page(), index)->BackColor : page().bkgcol) = colour;
-            const std::string before = serialisePage(page());
-            kind ? withDialog(index, confirm) : withDialogOf(kind, confirm);
-            EXPECT_EQ(serialisePage(page()), before) << (kind ? kindRow(*kind).prefix : "page") << colour;
-        }
-    }
 }
 
 TEST_F(DialogFields, AColourIsShownAsTypedAndRefusedWhenItIsNone)

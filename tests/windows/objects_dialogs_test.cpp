@@ -13,17 +13,6 @@
 namespace corvanta {
 namespace {
 
-TEST_F(PropertyDialogs, ConfirmingUntouchedChangesNoByte)
-{
-    for (const char *name : {"menu.ods", "query.ods", "record.ods", "hitlist.ods", "view.ods"}) {
-        openSample(name);
-        const std::string before = serialisePage(page());
-        for (std::int16_t i = 0; i < objectCount(page()); ++i)
-            withDialog(i, [](QDialog &d) { press(d, "ok"); });
-        EXPECT_EQ(serialisePage(page()), before) << name;
-    }
-}
-
 void changeEverything(const QDialog &dialog)
 {
     for (auto *list : dialog.findChildren<QListWidget *>())

@@ -71,24 +71,6 @@ protected:
 
 } // namespace
 
-TEST_F(PagePropertiesWindow, OkUntouchedWritesEqualBytes)
-{
-    for (const char *name : {"hitlist.ods", "menu.ods", "query.ods", "record.ods", "view.ods"}) {
-        openSample(name);
-        if (page().dbconnect == "\t\t")
-            page().dbconnect += '\t'; // OK completes it
-        page().pgcaption = "two\r\nlines, a tab\t and \x81";
-        page().PageType = static_cast<std::int16_t>(page().PageType + (name == std::string("view.ods") ? 40 : 0));
-        const std::string before = serialisePage(page());
-        open();
-        press("ok");
-        EXPECT_EQ(openDialog(), nullptr) << name;
-        EXPECT_EQ(serialisePage(page()), before) << name;
-        EXPECT_TRUE(editing().pagedirty);
-    }
-    EXPECT_EQ(closed, 5);
-}
-
 TEST_F(PagePropertiesWindow, CancelAfterChangingEveryFieldWritesNothing)
 {
     page().PageType = 2;
