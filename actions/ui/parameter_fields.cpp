@@ -1,13 +1,15 @@
 #include "actions/ui/parameter_fields.h"
 
 #include "document/parse.h"
-#include "platform/qt/text.h"
+#include "platform/qt/tied_text.h"
 
 #include <QDialog>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+
+#include <memory>
 
 namespace corvanta {
 
@@ -35,10 +37,12 @@ public:
     }
 };
 
-// What a text field holds; a text that the author has left alone stays byte for byte, whatever the field made of it.
-std::function<std::string()> holds(std::function<QString()> get, const std::string &before)
+// Shows the value of the field; what it holds later stays byte for byte when the author leaves it alone.
+template <class Field> std::function<std::string()> tied(Field &field, const std::string &value)
 {
-    return [get, before, shown = get()] { return get() == shown ? before : toBytes(get()); };
+    auto text = std::make_shared<TiedText>(field);
+    text->show(value);
+    return [text] { return text->bytes(); };
 }
 
 } // namespace
@@ -48,9 +52,7 @@ ParameterFields::ParameterFields(const std::string &actionText) : input(actionTe
 QLineEdit *ParameterFields::addLine(Fields &fields, const char *name, const QString &label)
 {
     QLineEdit *field = addTextRow(fields, name, label);
-    field->setText(toQString(nextValue()));
-    field->setCursorPosition(0);
-    add(holds([field] { return field->text(); }, nextValue()));
+    add(tied(*field, nextValue()));
     return field;
 }
 
@@ -58,9 +60,8 @@ QPlainTextEdit *ParameterFields::addStatement(Fields &fields, const char *name)
 {
     QPlainTextEdit *field = addTextAreaRow(fields, name, {}, statementLines);
     field->setMinimumWidth(field->fontMetrics().averageCharWidth() * statementWidth);
-    field->setPlainText(toQString(nextValue()));
     field->installEventFilter(new EnterConfirms(field));
-    add(holds([field] { return field->toPlainText(); }, nextValue()));
+    add(tied(*field, nextValue()));
     return field;
 }
 

@@ -32,14 +32,12 @@ void showPreview(QTableWidget &preview, const std::vector<GridColumn> &columns)
     }
 }
 
-// Every width is taken again from the preview, but for those that it shows unchanged.
-void takeWidths(const QTableWidget &preview, std::vector<GridColumn> &columns)
+// The width of a column that the author has changed in the preview; the preview cannot show every width of the others.
+void takeWidth(std::vector<GridColumn> &columns, int column, int pixels)
 {
-    for (std::size_t i = 0; i < columns.size(); ++i) {
-        const int pixels = preview.columnWidth(static_cast<int>(i));
-        if (pixels != std::lround(columns[i].width / twipsPerPixelX()))
-            columns[i].width = static_cast<std::int16_t>(std::min(pixels * twipsPerPixelX(), 32767.0));
-    }
+    if (static_cast<std::size_t>(column) < columns.size())
+        columns[static_cast<std::size_t>(column)].width =
+            static_cast<std::int16_t>(std::min(pixels * twipsPerPixelX(), 32767.0));
 }
 
 EntryList<GridColumn> entriesOf(PropertyDialog &d, QListWidget &list)
@@ -67,7 +65,7 @@ QTableWidget *addPreview(PropertyDialog &d, Group &header)
     preview->setTabKeyNavigation(false);
     addWidgetRow(header.fields, *preview, "grd", "");
     QObject::connect(preview->horizontalHeader(), &QHeaderView::sectionResized, preview,
-                     [&d, preview] { takeWidths(*preview, d.values.columns); });
+                     [&d](int column, int, int pixels) { takeWidth(d.values.columns, column, pixels); });
     return preview;
 }
 
