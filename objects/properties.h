@@ -36,7 +36,8 @@ PropertyFields LoadProperties(std::int16_t index);
 // Checks the fields in the kind's order, telling what is wrong, and writes them back.
 Confirmation ConfirmProperties(std::int16_t index, const PropertyFields &fields);
 
-// The two halves of it: the checks alone (an object of an unknown kind is refused), and writing back what they passed.
+// The two halves of it: the checks alone (an object of an unknown kind is refused), and writing back what they passed:
+// fields that still read as LoadProperties gives them stay as they are.
 Confirmation CheckProperties(std::int16_t index, const PropertyFields &fields);
 void StoreProperties(std::int16_t index, const PropertyFields &fields);
 
