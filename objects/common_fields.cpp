@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <optional>
 
 namespace corvanta {
 
@@ -24,23 +23,19 @@ bool within(const std::string &text, int low, int high)
     return value >= low && value <= high;
 }
 
-struct PlacementField {
-    const char *name, *control;
-};
-
 // The first placement field whose value does not lie on the page; none when all do.
-std::optional<PlacementField> misplacedField(const CommonFields &f)
+const char *misplacedField(const CommonFields &f)
 {
     const Page &p = page();
     if (!within(f.ptop, 0, p.bkght))
-        return PlacementField{"Top", "ptop"};
+        return "Top";
     if (!within(f.pleft, 0, p.bkgwd))
-        return PlacementField{"Left", "pleft"};
+        return "Left";
     if (!within(f.pheight, 1, p.bkght))
-        return PlacementField{"Height", "pheight"};
+        return "Height";
     if (!within(f.pwidth, 1, p.bkgwd))
-        return PlacementField{"Width", "pwidth"};
-    return std::nullopt;
+        return "Width";
+    return nullptr;
 }
 
 void storeBinding(ObjectRecord &o, const CommonFields &f, bool bound)
@@ -81,11 +76,11 @@ CommonFields LoadCommonProperties(std::int16_t index)
 
 Confirmation CheckPlacement(Kind kind, const CommonFields &fields)
 {
-    const auto field = misplacedField(fields);
+    const char *field = misplacedField(fields);
     if (!field)
         return {true, ""};
-    showExclamation(invalidField(kind, field->name), propertiesError);
-    return {false, field->control};
+    showExclamation(invalidField(kind, field), propertiesError);
+    return {false, ""}; // the focus stays where it is
 }
 
 void StoreCommonProperties(std::int16_t index, const CommonFields &fields, std::string_view workingAction)

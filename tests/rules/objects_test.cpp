@@ -73,10 +73,10 @@ TEST_F(Properties, PlacementBoundsAreInclusiveAndToldInOrder)
     };
     EXPECT_TRUE(confirm(Kind::Label, place("0", "0", "1", "1")).stored);
     EXPECT_TRUE(confirm(Kind::Label, place("420", "600", "420", "600")).stored);
-    refused(asking, Kind::Label, "Invalid label \"Height\".", "pheight", place("0", "0", "0", "601"));
-    refused(asking, Kind::TextBox, "Invalid text box \"Top\".", "ptop", place("-40000", "-1", "0", "0"));
-    refused(asking, Kind::HotSpot, "Invalid hot spot \"Left\".", "pleft", place("0", "601", "0", "0"));
-    refused(asking, Kind::ListBox, "Invalid list box \"Width\".", "pwidth", place("0", "0", "1", ""));
+    refused(asking, Kind::Label, "Invalid label \"Height\".", "", place("0", "0", "0", "601"));
+    refused(asking, Kind::TextBox, "Invalid text box \"Top\".", "", place("-40000", "-1", "0", "0"));
+    refused(asking, Kind::HotSpot, "Invalid hot spot \"Left\".", "", place("0", "601", "0", "0"));
+    refused(asking, Kind::ListBox, "Invalid list box \"Width\".", "", place("0", "0", "1", ""));
 }
 
 TEST_F(Properties, ButtonTellsPlacementAndFileNameTogetherButNotTheBevel)
