@@ -4,6 +4,7 @@
 #include "platform/post.h"
 #include "shell/session.h"
 #include "shell/ui/hpsedit.h"
+#include "shell/ui/pause_watch.h"
 #include "shell/ui/rooms.h"
 #include "shell/ui/signals.h"
 #include "shell/ui/startup.h"
@@ -65,6 +66,7 @@ int runEditor(int argc, char **argv)
     QObject::connect(&application, &QGuiApplication::commitDataRequest, &application, keepSession,
                      Qt::DirectConnection);
     windows.start(line.pageFile);
+    watchPauses();
     const int code = QApplication::exec();
     windows.end();
     setEventLoop({}); // abandoned threads tell nothing any more

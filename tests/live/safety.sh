@@ -2,7 +2,6 @@
 # What an author does is never lost: undo, crashes, signals, other programs, other directories. With a number: so many kills.
 source "$(dirname "$(readlink -f "$0")")/support/lib.sh"
 kills=${1:-6}
-export XDG_STATE_HOME=$work/state
 title='Harbour Supply - Main Menu'
 page=$work/pages/menu.ods
 mkdir -p "$work/pages" "$work/other"
