@@ -53,9 +53,9 @@ struct SqlResult {
 
 struct SqlLimits {
     std::size_t rows = 5000;
-    std::size_t bytes = 16U << 20;  // of all texts together
-    std::size_t textBytes = 65536;  // of one; what is beyond is cut
-    std::chrono::seconds time{20};  // then the driver is told to stop
+    std::size_t bytes = 16U << 20; // of all texts together
+    std::size_t textBytes = 65536; // of one; what is beyond is cut
+    std::chrono::seconds time{20}; // then the driver is told to stop
 };
 
 // What a connection is used for: one that reads undoes whatever a statement did.
