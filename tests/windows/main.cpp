@@ -3,6 +3,7 @@
 #include "platform/qt/fonts.h"
 
 #include <QApplication>
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 #include <cstdio>
@@ -24,6 +25,8 @@ int main(int argc, char **argv)
     qInstallMessageHandler(printMessage);
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
+    const QTemporaryDir state; // what tests leave is no author's
+    qputenv("XDG_STATE_HOME", state.path().toUtf8());
     corvanta::registerFontSubstitutions();
     corvanta::BuildActionKinds();
     corvanta::buildKindRegistry();
