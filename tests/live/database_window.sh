@@ -61,7 +61,7 @@ drag_label() { # DX DY: and save, while the data source is silent
   keys ctrl+s
 }
 label_x=60 label_y=105
-select='205 51' refresh='290 51'
+select="205 51" refresh="290 51"
 
 cp samples/menu.ods samples/*.bmp samples/*.wav "$work/"
 start_editor 'Harbour Supply - Main Menu' "$work/menu.ods"
