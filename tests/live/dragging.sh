@@ -68,15 +68,15 @@ start_editor Product "$work/record.ods"
 read -r left top <<<"$(origin_of "$(canvas_id)")"
 read -r odbc_left odbc_top <<<"$(origin_of "$(window 'ODBC Toolbar')")"
 click_odbc() { xdotool mousemove $((odbc_left + $1)) $((odbc_top + $2)) sleep 0.1 click 1 sleep 0.4; }
-click_odbc 252 51 # "Select"
+click_odbc 205 51 # "Select"
 wait_until has_window 'Select Data Source'
 activate 'Select Data Source'
 type_text 'Corvanta'
 keys Return
 wait_until no_window 'Select Data Source'
 sleep 0.5
-click_odbc 40 123 # the first table: Customers
-drag $((odbc_left + 43)) $((odbc_top + 272)) $((left + 420)) $((top + 300)) # its second column: Name
+click_odbc 40 173 # the first table: Customers
+drag $((odbc_left + 43)) $((odbc_top + 328)) $((left + 420)) $((top + 300)) # its second column: Name
 save
 "$programs/odspage" dump "$work/record.ods" >"$work/record.json"
 python3 - "$work/record.json" <<'PY'
