@@ -3,8 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-#include <future>
+#include <atomic>
+#include <memory>
 #include <stdexcept>
 #include <string>
 #include <thread>
@@ -20,8 +20,9 @@ class DatabaseWorker : public testing::Test {
 protected:
     ~DatabaseWorker() override
     {
-        letGo.set_value();
-        while (hanging.use_count() > 1) // the threads have ended, and with them what they hold
+        letGo = true;
+        hanging.reset();
+        while (!ended) // the threads, and with them what they hold
             std::this_thread::yield();
         runPostedJobs();
         EXPECT_EQ(told, toldBefore);
@@ -32,8 +33,9 @@ protected:
     {
         return {[this, name, hangs, throws, kept = hanging]() -> Job {
                     if (hangs) {
-                        begun.set_value();
-                        answer.wait();
+                        begun = true;
+                        while (!letGo)
+                            std::this_thread::yield();
                     }
                     if (throws)
                         throw std::runtime_error("a driver's");
@@ -51,9 +53,14 @@ protected:
         EXPECT_EQ(toldBefore = told, expected);
     }
 
-    std::shared_ptr<int> hanging = std::make_shared<int>();
-    std::promise<void> letGo, begun;
-    std::shared_future<void> answer = letGo.get_future().share();
+    void awaitBegin() const
+    {
+        while (!begun)
+            std::this_thread::yield();
+    }
+
+    std::atomic<bool> letGo = false, begun = false, ended = false;
+    std::shared_ptr<void> hanging{this, [this](void *) { ended = true; }}; // held by every task
     std::string told, toldBefore;
 };
 
@@ -63,11 +70,10 @@ TEST_F(DatabaseWorker, DeliversInItsThreadsOrderAndOnlyWhatIsWantedLast)
     worker.run(task("first", 1h));
     expectTold("first;");
     worker.run(task("running", 1h, true));
-    begun.get_future().wait();
+    awaitBegin();
     worker.run(task("superseded", 1h));
     worker.run(task("last", 1h));
-    std::promise<void> other = std::exchange(letGo, {});
-    other.set_value();
+    letGo = true;
     expectTold("first;last;");
 }
 
@@ -92,7 +98,7 @@ TEST_F(DatabaseWorker, ItsEndWaitsForNothingAndTellsNothing)
     ConnectionWorker().run(task("unbegun", 1h));
     ConnectionWorker worker;
     worker.run(task("call", 1ms, true));
-    begun.get_future().wait();
+    awaitBegin();
 }
 
 } // namespace
