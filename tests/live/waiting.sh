@@ -34,7 +34,7 @@ Database=shop
 Username=clerk
 Password=$password
 INI
-printf 'OdbcCallTimeout= 3\nOdbcLoginTimeout= 3\n' >>"$work/config/corvanta/CORVANTA.INI"
+printf 'OdbcCallTimeout= 6\nOdbcLoginTimeout= 6\n' >>"$work/config/corvanta/CORVANTA.INI"
 cp samples/*.ods samples/*.bmp samples/*.wav "$work/"
 
 click_odbc() { # X Y in the ODBC window
@@ -97,8 +97,9 @@ for source in a-mute b-mute; do
   sleep 1
   has_window 'Select Data Source' || fail "The choice of a source waits for a driver"
   keys Escape
+  wait_until no_window 'Select Data Source'
   click_odbc 290 83 # Cancel
-  sleep 4
+  sleep 7
   no_message || fail "A cancelled log-in told something"
 done
 
