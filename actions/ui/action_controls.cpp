@@ -16,7 +16,7 @@ namespace corvanta {
 
 namespace {
 
-constexpr int leastCaption = 16; // characters of a long caption that are seen
+constexpr int leastCaption = 12; // characters of a long caption that are seen
 
 std::string storedAction()
 {

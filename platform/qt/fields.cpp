@@ -61,16 +61,16 @@ QLabel *addLabel(Fields &fields, const Place &place, QWidget &control, const QSt
 }
 
 // Puts a control into the grid; what stands beside it follows in the same box.
-void addBox(Fields &fields, QWidget &control, const Place &place, Qt::Alignment alignment)
+void addBox(Fields &fields, QWidget &control, const Place &place)
 {
     fields.row = new QHBoxLayout;
     fields.row->addWidget(&control);
     fields.latest = &control;
-    fields.grid->addLayout(fields.row, place.row, place.column, 1, place.columns, alignment);
+    fields.grid->addLayout(fields.row, place.row, place.column, 1, place.columns);
 }
 
 void addControl(Fields &fields, QWidget &control, const char *name, const QString &label, Width width,
-                Qt::Alignment alignment = {}, Qt::Alignment labelAlignment = Qt::AlignLeft | Qt::AlignVCenter)
+                Qt::Alignment labelAlignment = Qt::AlignLeft | Qt::AlignVCenter)
 {
     nameControl(control, name, label);
     Place place = nextPlace(fields, width);
@@ -79,7 +79,7 @@ void addControl(Fields &fields, QWidget &control, const char *name, const QStrin
         ++place.column;
         --place.columns;
     }
-    addBox(fields, control, place, alignment);
+    addBox(fields, control, place);
 }
 
 // Lets no key in that would make the number too large; the toolkit's own validator allows it while typing.
@@ -186,7 +186,9 @@ QLineEdit *addNumberRow(Fields &fields, const char *name, const QString &label)
     field->setMinimumWidth(width);
     if (fields.cells == 1)
         field->setMaximumWidth(width);
-    addControl(fields, *field, name, label, Width::Cell, fields.cells == 1 ? Qt::AlignLeft : Qt::Alignment());
+    addControl(fields, *field, name, label, Width::Cell);
+    if (fields.cells == 1)
+        fields.row->addStretch();
     return field;
 }
 
@@ -202,7 +204,7 @@ QPlainTextEdit *addTextAreaRow(Fields &fields, const char *name, const QString &
     QPlainTextEdit *area = newTextArea(parentOf(fields));
     area->setTabChangesFocus(true);
     setLines(*area, lines);
-    addControl(fields, *area, name, label, Width::Row, {}, Qt::AlignLeft | Qt::AlignTop);
+    addControl(fields, *area, name, label, Width::Row, Qt::AlignLeft | Qt::AlignTop);
     letGrow(fields);
     return area;
 }
@@ -227,7 +229,7 @@ QListWidget *addListRow(Fields &fields, const char *name, const QString &label, 
         const Place place = nextPlace(fields, Width::Row);
         addLabel(fields, place, *list, label, place.columns, Qt::AlignLeft);
     }
-    addBox(fields, *list, nextPlace(fields, Width::Row), {});
+    addBox(fields, *list, nextPlace(fields, Width::Row));
     letGrow(fields);
     return list;
 }
@@ -236,7 +238,7 @@ QCheckBox *addCheckRow(Fields &fields, const char *name, const QString &caption)
 {
     auto *box = new QCheckBox(caption, parentOf(fields));
     nameControl(*box, name, caption);
-    addBox(fields, *box, nextPlace(fields, Width::Cell), {});
+    addBox(fields, *box, nextPlace(fields, Width::Cell));
     return box;
 }
 
@@ -257,7 +259,7 @@ QButtonGroup *addOptionRows(Fields &fields, const char *name, std::initializer_l
         nameControl(*button, name, button->text());
         button->setObjectName(QString::fromLatin1(name) + QString::number(id));
         group->addButton(button, id++);
-        addBox(fields, *button, nextPlace(fields, Width::Row), {});
+        addBox(fields, *button, nextPlace(fields, Width::Row));
     }
     return group;
 }
@@ -281,7 +283,7 @@ QLabel *addHintBeside(Fields &fields, const QString &text)
 {
     auto *hint = new QLabel(text, parentOf(fields));
     fields.latest->setAccessibleDescription(text);
-    fields.row->addWidget(hint);
+    fields.row->insertWidget(fields.row->indexOf(fields.latest) + 1, hint);
     return hint;
 }
 
