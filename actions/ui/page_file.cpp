@@ -16,6 +16,7 @@ std::optional<std::string> askPageFile()
     question.defaultExtension = "ODS";
     question.filter = "ODBC Form Files (*.ods)|*.ods|All Files (*.*)|*.*";
     question.initialDirectory = editing().curdir;
+    question.entersDirectory = false; // a name is chosen: Save writes where it did
     return asking().fileDialog ? asking().fileDialog(question) : std::nullopt;
 }
 

@@ -254,6 +254,7 @@ TEST_F(ActionDialogsOnAPage, BrowseTakesThePageName)
     EXPECT_EQ(user.fileDialogs[0].filter, "ODBC Form Files (*.ods)|*.ods|All Files (*.*)|*.*");
     EXPECT_EQ(user.fileDialogs[0].defaultExtension, "ODS");
     EXPECT_EQ(user.fileDialogs[0].initialDirectory, "C:\\");
+    EXPECT_FALSE(user.fileDialogs[0].entersDirectory); // Save writes where it did
 }
 
 TEST_F(ActionDialogsOnAPage, GeneratesTheStatement)

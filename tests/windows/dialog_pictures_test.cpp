@@ -1,12 +1,14 @@
 #include "actions/action.h"
 #include "actions/ui/edit_action.h"
 #include "page/ui/pgprops.h"
+#include "tests/windows/help_index.h"
 #include "tests/windows/objects_page.h"
 
 #include <QAccessible>
 #include <QGroupBox>
 #include <QLabel>
 #include <QListWidget>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <map>
@@ -68,6 +70,25 @@ void expectOneLook(const QWidget &dialog)
         }
 }
 
+// The titles of frames and the labels of fields, buttons and check boxes are in the index of the help.
+void expectInHelpIndex(const QWidget &dialog)
+{
+    for (const auto *w : dialog.findChildren<QWidget *>()) {
+        const auto *label = qobject_cast<const QLabel *>(w);
+        const auto *group = qobject_cast<const QGroupBox *>(w);
+        const auto *button = qobject_cast<const QAbstractButton *>(w);
+        const QString text = group                     ? group->title()
+                             : button                  ? button->text()
+                             : label && label->buddy() ? label->text()
+                                                       : "";
+        const QString name = w->objectName();
+        if (text.contains(QRegularExpression("[A-Za-z]")) && !name.startsWith("qt_") && text != "OK" &&
+            text != "Cancel") {
+            EXPECT_TRUE(inHelpIndex(text)) << qPrintable(dialog.objectName() + ": " + text);
+        }
+    }
+}
+
 // Shows every dialog with some content at a font size; with CORVANTA_PICTURES, a folder, a picture of each goes there.
 class DialogPictures : public PropertyDialogs, public testing::WithParamInterface<int> {
 protected:
@@ -84,6 +105,7 @@ protected:
         QCoreApplication::processEvents();
         expectReadable(dialog);
         expectOneLook(dialog);
+        expectInHelpIndex(dialog);
         const QByteArray folder = qgetenv("CORVANTA_PICTURES");
         if (!folder.isEmpty())
             dialog.grab().save(QString("%1/%2-%3.png").arg(QString(folder), dialog.objectName()).arg(GetParam()));

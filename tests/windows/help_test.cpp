@@ -3,6 +3,7 @@
 #include "shell/menu_table.h"
 #include "shell/ui/help_key.h"
 #include "tests/support/modal_driver.h"
+#include "tests/windows/help_index.h"
 
 #include <QDialog>
 #include <QGroupBox>
@@ -16,6 +17,8 @@
 #include <QToolBar>
 #include <QWindow>
 
+#include <filesystem>
+#include <fstream>
 #include <map>
 
 namespace corvanta {
@@ -145,6 +148,71 @@ TEST(HelpPages, LinksAndPicturesResolve)
         const QUrl url = pages.front().resolved(QUrl(QString::fromStdString(page)));
         EXPECT_TRUE(textOf(url).contains(url.hasFragment() ? "name=\"" + url.fragment() + '"' : "<h1>")) << page;
     }
+}
+
+namespace {
+
+std::string textOfFile(const std::filesystem::path &path)
+{
+    std::ifstream in(path);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+// Letters and digits of a text, the rest one blank each time: page and source break and mark texts in their own ways.
+QString plain(const QString &text)
+{
+    return text.toLower().replace(QRegularExpression("(?:\\\\[rn]|[^\\w])+"), " ").trimmed();
+}
+
+} // namespace
+
+TEST(HelpPages, TellEveryMessageOfTheProgram)
+{
+    const QString page = plain(QString::fromStdString(textOfFile(CORVANTA_SOURCE "/help/messages.html")));
+    const QRegularExpression asked(
+        R"~((?:showMessage|showExclamation|askChoice|askYesNo|refuse|tellReadError|tell|notice)\(\s*\{*(?:\.text = )?)~"
+        R"~((?:std::string\()?"((?:[^"\\]|\\.)*)")~");
+    int messages = 0;
+    for (const char *room : {"actions", "canvas", "database", "document", "objects", "page", "platform", "shell"})
+        for (const auto &file : std::filesystem::recursive_directory_iterator(std::string(CORVANTA_SOURCE "/") + room))
+            for (const auto &match : asked.globalMatch(QString::fromStdString(
+                     file.path().extension() == ".cpp" ? textOfFile(file.path()) : std::string()))) {
+                ++messages;
+                EXPECT_TRUE(page.contains(plain(match.captured(1))))
+                    << file.path().filename() << ": " << match.captured(1).toStdString();
+            }
+    EXPECT_GT(messages, 30);
+}
+
+TEST(HelpPages, TellEveryOptionOfTheTools)
+{
+    const std::string pages =
+        textOfFile(CORVANTA_SOURCE "/help/tools.html") + textOfFile(CORVANTA_SOURCE "/help/opening.html");
+    const QRegularExpression option("add_(?:option|flag)[^;\"]*\"(--[a-z-]+)");
+    int options = 0;
+    for (const char *folder : {"/tools", "/shell/ui"})
+        for (const auto &file : std::filesystem::directory_iterator(std::string(CORVANTA_SOURCE) + folder))
+            for (const auto &match : option.globalMatch(QString::fromStdString(textOfFile(file.path())))) {
+                const std::string name = match.captured(1).toStdString();
+                EXPECT_NE(pages.find("<code>" + name), std::string::npos) << file.path().filename() << ": " << name;
+                EXPECT_TRUE(inHelpIndex(match.captured(1))) << name;
+                ++options;
+            }
+    EXPECT_GT(options, 12);
+}
+
+TEST(HelpPages, IndexHoldsEveryMenuCaptionAndSetting)
+{
+    QStringList names{"CORVANTA.INI"};
+    for (const auto table : {menuTable(), contextTable()})
+        for (const MenuRow &row : table)
+            if (!isSeparator(row) && row.command != Command::Add)
+                names << row.caption;
+    const QString settings = QString::fromStdString(textOfFile(CORVANTA_SOURCE "/document/settings.cpp"));
+    for (const auto &match : QRegularExpression("read(?:Number|Truth)\\([^\"]*\"(\\w+)\"").globalMatch(settings))
+        names << match.captured(1);
+    for (const QString &name : names)
+        EXPECT_TRUE(inHelpIndex(name)) << name.toStdString();
 }
 
 } // namespace corvanta
