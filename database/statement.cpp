@@ -2,6 +2,7 @@
 
 #include "database/catalogue_handles.h"
 #include "platform/codepage.h"
+#include "platform/text.h"
 
 #include <algorithm>
 #include <condition_variable>
@@ -182,7 +183,6 @@ void execute(SQLHSTMT handle, const SqlStatement &statement, Units units, const 
 {
     SQLSetStmtAttr(handle, SQL_ATTR_QUERY_TIMEOUT,
                    reinterpret_cast<SQLPOINTER>(static_cast<SQLULEN>(limits.time.count())), 0);
-    SQLSetStmtAttr(handle, SQL_ATTR_MAX_ROWS, reinterpret_cast<SQLPOINTER>(static_cast<SQLULEN>(limits.rows + 1)), 0);
     const Watchdog watchdog(handle, limits.time);
     std::vector<Bound> bound(statement.parameters.size());
     for (std::size_t i = 0; i < bound.size(); ++i)
@@ -208,6 +208,15 @@ bool refusesUnits(const SqlResult &result)
     return result.state == "HYC00" || result.state == "07006" || result.state == "HY003";
 }
 
+// MariaDB's driver writes a limit behind the statement, which may have one already.
+void limitRows(void *connection, SQLHSTMT handle, const std::string &statement, std::size_t rows)
+{
+    const std::u16string database = connectionText(connection, SQL_DBMS_NAME);
+    const bool writes = database.starts_with(u"MariaDB") || database.starts_with(u"MySQL");
+    if (!writes || lowerCase(statement).find("limit") == std::string::npos)
+        SQLSetStmtAttr(handle, SQL_ATTR_MAX_ROWS, reinterpret_cast<SQLPOINTER>(static_cast<SQLULEN>(rows + 1)), 0);
+}
+
 SqlResult run(void *connection, const SqlStatement &statement, const SqlLimits &limits)
 {
     SqlResult result;
@@ -215,6 +224,8 @@ SqlResult run(void *connection, const SqlStatement &statement, const SqlLimits &
     for (const Units units : {Units::Wide, Units::Narrow}) {
         const OdbcHandle own = newStatement(connection);
         result = {};
+        if (own)
+            limitRows(connection, own.get(), statement.text, limits.rows);
         if (own)
             execute(own.get(), statement, units, limits, result);
         else

@@ -149,11 +149,13 @@ protected:
     {
         const std::vector<TableFacts> facts = tableFacts();
         ASSERT_EQ(facts.size(), c.tables.size());
+        const OdbcHandle environment = openOdbc(), own = connectOdbc(environment.get(), c.source, c.user, c.password);
         for (const NamedTable &t : tables) {
             listColumnsOf(t.listed);
             EXPECT_EQ(c.columns, std::vector<std::string>{t.column}) << t.listed;
             const std::string dropped = facts[static_cast<std::size_t>(c.listedTable)].dropped;
             EXPECT_EQ(dropped, t.dropped);
+            EXPECT_EQ(readRows(own.get(), {facts[static_cast<std::size_t>(c.listedTable)].firstRows, {}}).error, "");
             if (!dropped.empty()) {
                 EXPECT_EQ(failureOf(c.source, c.user, toUtf8(c.password), selectWholeTable(dropped).text), "");
             }
