@@ -2,6 +2,7 @@
 # mariadb_port is its port, and clerk's password is "secret".
 
 mariadb_folder=$(mktemp -d)
+mariadb_pid=
 
 have_mariadb() {
   command -v mariadbd >/dev/null && command -v mariadb >/dev/null && command -v mariadb-install-db >/dev/null &&
@@ -9,8 +10,8 @@ have_mariadb() {
 }
 
 stop_mariadb() {
-  if [ -s "$mariadb_folder/pid" ]; then
-    mariadb-admin --no-defaults -S "$mariadb_folder/socket" shutdown 2>/dev/null || kill "$(cat "$mariadb_folder/pid")"
+  if [ -n "$mariadb_pid" ]; then
+    kill "$mariadb_pid" 2>/dev/null && wait "$mariadb_pid" || true
   fi
   rm -rf "$mariadb_folder"
 }
@@ -24,8 +25,9 @@ start_mariadb() {
   mariadb_port=$((40000 + RANDOM % 20000))
   mariadbd --no-defaults --user="$me" --datadir="$mariadb_folder/data" --socket="$mariadb_folder/socket" \
     --port="$mariadb_port" --bind-address=127.0.0.1 --pid-file="$mariadb_folder/pid" >"$mariadb_folder/log" 2>&1 &
+  mariadb_pid=$!
   for _ in $(seq 150); do
-    mariadb-admin --no-defaults -S "$mariadb_folder/socket" ping >/dev/null 2>&1 && break
+    mariadb --no-defaults -S "$mariadb_folder/socket" -e 'select 1' >/dev/null 2>&1 && break
     sleep 0.2
   done
   for script in "$@"; do
