@@ -5,6 +5,7 @@ BUILD_PACKAGES=(
   qt6-base-dev qt6-base-dev-tools qt6-tools-dev qt6-documentation-tools libqt6sql6-sqlite
   libgl-dev libsdl2-mixer-dev unixodbc-dev
   nlohmann-json3-dev libcli11-dev libcpp-httplib-dev libtomlplusplus-dev libgtest-dev libbenchmark-dev
+  python3
 )
 # Needed by the running editor; the second line serves machines without a display.
 RUN_PACKAGES=(
@@ -12,7 +13,7 @@ RUN_PACKAGES=(
   xvfb openbox imagemagick x11vnc x11-utils
 )
 TEST_PACKAGES=(
-  clang-format python3 git
+  clang-format git
 )
 FUZZ_PACKAGES=(
   clang libclang-rt-14-dev
@@ -22,6 +23,7 @@ FULL_TEST_PACKAGES=(
   xvfb openbox xdotool xclip imagemagick x11-utils libsqliteodbc odbc-postgresql postgresql sqlite3
   odbc-mariadb mariadb-server-core mariadb-client-core
   fonts-liberation fonts-dejavu-core chromium pulseaudio pulseaudio-utils
+  dpkg-dev lintian desktop-file-utils appstream shared-mime-info libglib2.0-bin xdg-utils file man-db
 )
 command -v node >/dev/null || FULL_TEST_PACKAGES+=(nodejs npm)
 command -v java >/dev/null || FULL_TEST_PACKAGES+=(default-jre-headless)

@@ -47,7 +47,9 @@ mkdir -p "$work/pixels"
 (cd "$work/samples" && grep -ohE '(href|src)="[^":@]+"' *.hts | cut -d'"' -f2 | sort -u | xargs -n1 ls >/dev/null)
 
 # Other languages use the library as it is installed.
-cmake --install build/release --prefix "$work/usr" --component ods2hts >/dev/null
+for component in ods2hts dev; do
+  cmake --install build/release --prefix "$work/usr" --component $component >/dev/null
+done
 cat >"$work/use.c" <<'C'
 #include <ods2hts.h>
 #include <stdio.h>
