@@ -81,7 +81,7 @@ private:
 
     static std::string nameOf(const QWidget &window) { return window.objectName().toStdString(); }
 
-    static constexpr qint64 patience = 3000; // milliseconds without a step
+    static constexpr qint64 patience = 10000; // milliseconds without a step
 
     std::deque<Step> steps;
     QElapsedTimer sinceStep;
