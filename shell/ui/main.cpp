@@ -4,6 +4,7 @@
 #include "platform/post.h"
 #include "shell/session.h"
 #include "shell/ui/hpsedit.h"
+#include "shell/ui/missing_display.h"
 #include "shell/ui/pause_watch.h"
 #include "shell/ui/rooms.h"
 #include "shell/ui/signals.h"
@@ -49,7 +50,9 @@ int runEditor(int argc, char **argv)
     } catch (const CLI::ParseError &error) {
         return usage.exit(error) == 0 ? 0 : wrongUsage;
     }
+    watchForMissingDisplay();
     QApplication application(argc, argv);
+    displayFound();
     QApplication::setApplicationName("corvanta");
     QApplication::setApplicationVersion(CORVANTA_VERSION);
     QApplication::setDesktopFileName("corvanta");

@@ -77,4 +77,8 @@ for dialog in 'Page Properties':alt+p:p 'Object List':alt+o:l 'Support File Dire
   wait_until no_window "$title"
 done
 end_editor
+echo "Without a display the program ends with one line"
+code=0
+env -u WAYLAND_DISPLAY DISPLAY=:nowhere "$programs/corvanta" 2>"$work/told" || code=$?
+[ "$code $(wc -l <"$work/told")" = '1 1' ] || fail "It ended with $code: $(cat "$work/told")"
 echo "The real program did all of it."
