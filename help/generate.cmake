@@ -1,7 +1,7 @@
-# Generates a help collection from SOURCES in FOLDER and puts it at COLLECTION. GENERATOR is qhelpgenerator, which
+# Generates a help collection from SOURCES and the folder PICTURES in FOLDER and puts it at COLLECTION. GENERATOR is qhelpgenerator, which
 # says of missing pages and bad links only in warnings: whatever it reports beyond its progress is an error.
 file(REMOVE_RECURSE ${FOLDER})
-file(COPY ${SOURCES} DESTINATION ${FOLDER})
+file(COPY ${SOURCES} ${PICTURES} DESTINATION ${FOLDER})
 execute_process(
   COMMAND ${GENERATOR} -c corvanta.qhcp -o corvanta.qhc
   WORKING_DIRECTORY ${FOLDER}
