@@ -20,7 +20,7 @@ drag $((main_left + 412)) $((main_top + 52)) $((left + 400)) $((top + 330))
 xdotool mousemove $((left + 410)) $((top + 340)) click --repeat 2 --delay 40 1
 wait_until has_window 'Button Properties'
 activate 'Button Properties'
-keys alt+c ctrl+a
+keys alt+i shift+Tab ctrl+a # the caption stands above the image; Credits has its letter, too
 type_text 'Go home'
 keys alt+f
 wait_until has_window 'Font'
