@@ -10,6 +10,7 @@
 
 #include <deque>
 #include <functional>
+#include <set>
 #include <stdexcept>
 #include <string>
 
@@ -55,11 +56,13 @@ private:
     void tick()
     {
         QWidget *window = QApplication::activeModalWidget();
-        if (!window || !window->isVisible())
+        // A window whose step still runs, behind one that it opened and that has just closed, waits for that step.
+        if (!window || !window->isVisible() || driven.contains(window))
             return sinceStep.start();
         if (!steps.empty() && (steps.front().name.empty() || steps.front().name == nameOf(*window))) {
             // Not from within the timer's own event: the timer would stand still while a step has a window open.
-            QTimer::singleShot(0, window, [step = std::move(steps.front()), window] { run(step, *window); });
+            driven.insert(window);
+            QTimer::singleShot(0, window, [this, step = std::move(steps.front()), window] { run(step, *window); });
             steps.pop_front();
             sinceStep.start();
         } else if (sinceStep.elapsed() > patience) {
@@ -69,7 +72,7 @@ private:
         }
     }
 
-    static void run(const Step &step, QWidget &window)
+    void run(const Step &step, QWidget &window)
     {
         try {
             step.drive(window);
@@ -77,6 +80,7 @@ private:
             ADD_FAILURE() << "in " << nameOf(window) << ": " << error.what();
             window.close();
         }
+        driven.erase(&window);
     }
 
     static std::string nameOf(const QWidget &window) { return window.objectName().toStdString(); }
@@ -84,6 +88,7 @@ private:
     static constexpr qint64 patience = 10000; // milliseconds without a step
 
     std::deque<Step> steps;
+    std::set<QWidget *> driven;
     QElapsedTimer sinceStep;
     QTimer timer;
 };
