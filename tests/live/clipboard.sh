@@ -20,7 +20,7 @@ clicked_label() { read -r left top <<<"$(origin_of "$(window "$menu_title")")"; 
 
 start_editor "$record_title" "$record"
 other_pid=$editor_pid
-trap 'finish; kill $other_pid 2>/dev/null' EXIT
+trap 'finish; kill $other_pid 2>/dev/null || true' EXIT
 start_editor "$menu_title" "$menu"
 count=$(json_value "$record" 'len(p["objects"])')
 
