@@ -10,7 +10,7 @@
 // Objects on their way through the clipboard: the bytes of a page file without page-wide values that holds just them.
 namespace corvanta {
 
-inline constexpr std::size_t clipLimit = 1 << 20; // bytes
+inline constexpr std::size_t clipLimit = 1 << 15; // bytes, which is twice what a page can have
 
 // The objects of these indices, in table order.
 std::string clipOf(const Page &p, const std::vector<std::int16_t> &indices);

@@ -4,6 +4,7 @@
 #include "document/page.h"
 #include "document/page_file.h"
 #include "platform/asking.h"
+#include "platform/codepage.h"
 #include "platform/file_stamp.h"
 #include "platform/files.h"
 #include "platform/paths.h"
@@ -43,6 +44,15 @@ const PageDamage &fileDamage() { return remembered.damage; }
 
 void noteDamage(PageDamage damage) { remembered.damage = std::move(damage); }
 
+void noteDamageOfFile(const std::string &path)
+{
+    const FileContent file = path.empty() ? FileContent() : readFile(path, fileLimit);
+    if (file.tooLarge || (!file.error.empty() && !file.missing))
+        noteDamage({"This file could not be read: saving would replace all of it.", {"What it holds is not known."}});
+    else if (!file.bytes.empty())
+        noteDamage(damageOf(file.bytes));
+}
+
 bool keepDamagedBytes(const std::string &path)
 {
     if (!remembered.damage || !samePath(path, remembered.path))
@@ -50,10 +60,12 @@ bool keepDamagedBytes(const std::string &path)
     std::string copy = path + ".bak";
     for (int number = 2; fileExists(copy); ++number)
         copy = path + ".bak" + std::to_string(number);
-    const FileContent old = readFile(path, fileLimit);
-    const auto error = old.missing ? std::nullopt : writeFileAtomically(copy, old.bytes);
+    std::error_code error;
+    if (fileExists(path))
+        std::filesystem::copy_file(hostPath(path), hostPath(copy), error);
     if (error)
-        showExclamation(*error, savingFile);
+        showExclamation("The old file could not be kept: " + fromUtf8Lossy(error.message()) + ".  Nothing was saved.",
+                        savingFile);
     return !error;
 }
 

@@ -18,8 +18,11 @@ const PageDamage &fileDamage();
 // Notes it. The first save over that file keeps the old bytes beside it.
 void noteDamage(PageDamage damage);
 
-// Before the page is written to a path: keeps the bytes of a damaged file as NAME.ods.bak (bak2 and so on). False when
-// that failed, which has been told.
+// Looks into a file and notes what saving over it would lose: all of one that cannot be read.
+void noteDamageOfFile(const std::string &path);
+
+// Before the page is written to a path: keeps the bytes of a damaged file as NAME.ods.bak (bak2 and so on), whatever
+// its size and with its mode. False when that failed, which has been told.
 bool keepDamagedBytes(const std::string &path);
 
 // Whether the file is there and is not what was remembered: changed or replaced by another program, or on another

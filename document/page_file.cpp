@@ -69,9 +69,9 @@ bool writePage(const std::string &path)
         return false;
     if (!writeWholeFile(path, text, holdsPassword(page()) ? FileMode::Private : FileMode::Usual))
         return false;
+    rememberFile(path);
     tellOfReadablePassword(path);
     markSaved();
-    rememberFile(path);
     return true;
 }
 
@@ -241,9 +241,11 @@ void openPage(const std::string &path)
     setFileTag(path);
     const CollectedMessages collected;
     std::string bytes = readWholeFile(path, fileLimit);
+    rememberFile(path); // before anything can be asked: what another program writes then is its own
     parsePage(page(), bytes);
-    rememberFile(path);
-    if (!bytes.empty())
+    if (bytes.empty())
+        noteDamageOfFile(path);
+    else
         noteDamage(damageOf(bytes));
     wipe(bytes);
     loadPageMedia();

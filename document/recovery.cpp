@@ -146,6 +146,12 @@ std::optional<LostPage> readLost(const fs::path &file)
     return lost.bytes.empty() ? std::nullopt : std::optional(lost);
 }
 
+void removeHalf(const fs::path &file)
+{
+    std::error_code ignored;
+    fs::remove(file, ignored);
+}
+
 // What an editor that died before its first edit has left.
 void removeIdleLock(const fs::path &file)
 {
@@ -217,6 +223,8 @@ std::vector<LostPage> lostPages(const fs::path &folder)
         const fs::path &file = entry->path();
         if (file.extension() == ".lock")
             removeIdleLock(file);
+        if (file.extension() == ".half" && lockOf(file, 0)) // its writer died
+            removeHalf(file);
         if (file.extension() != ".page")
             continue;
         const auto lock = lockOf(file, O_CREAT);
@@ -239,6 +247,7 @@ void recoverPage(const LostPage &lost)
     documentEvents().fileChanged();
     parsePage(page(), lost.bytes);
     rememberFile(lost.filetag, lost.stamp);
+    noteDamageOfFile(lost.filetag);
     loadPageMedia();
     editing().pagedirty = true;
     resetHistory(FirstState::Unsaved); // there is nothing before it that could be meant

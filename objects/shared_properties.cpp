@@ -2,6 +2,7 @@
 
 #include "document/events.h"
 #include "document/parse.h"
+#include "platform/asking.h"
 
 #include <algorithm>
 
@@ -132,6 +133,7 @@ Confirmation ConfirmSharedProperties(const std::vector<std::int16_t> &indices, c
         if (!check.stored)
             return check;
     }
+    const CollectedMessages collected;
     for (std::size_t i = 0; i < indices.size(); ++i)
         StoreProperties(indices[i], changed[i]);
     pageEdited("Properties of " + std::to_string(indices.size()) + " objects");

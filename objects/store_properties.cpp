@@ -252,6 +252,7 @@ Confirmation CheckProperties(std::int16_t index, const PropertyFields &fields)
 
 void StoreProperties(std::int16_t index, const PropertyFields &fields)
 {
+    const CollectedMessages collected; // an animation names many files
     const Target t = targetOf(index);
     if (t.kind == Kind::Animation) {
         storeAnimation(t, fields);

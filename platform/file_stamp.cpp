@@ -38,7 +38,7 @@ std::optional<FileStamp> fileStamp(std::string_view drivePath)
 bool sameFile(const FileStamp &a, const FileStamp &b)
 {
     const bool untouched = a.inode == b.inode && a.time == b.time;
-    return a.device == b.device && a.size == b.size && (a.hash == b.hash || (untouched && a.size > hashedBytes));
+    return a.device == b.device && a.size == b.size && (a.size > hashedBytes ? untouched : a.hash == b.hash);
 }
 
 bool onDevice(std::string_view drivePath, const FileStamp &stamp)

@@ -5,6 +5,7 @@
 #include "document/events.h"
 #include "document/media.h"
 #include "document/objects.h"
+#include "platform/asking.h"
 #include "platform/clipboard.h"
 #include "platform/text.h"
 #include "json/page.h"
@@ -117,6 +118,7 @@ void moveTo(const std::vector<std::int16_t> &pasted, Point corner)
 // One edit. Further is the distance in pixels from the places that the objects had.
 void appendEdited(const std::string &clip, const std::string &act, int further, std::optional<Point> at)
 {
+    const CollectedMessages collected;
     const std::vector<std::int16_t> pasted = appendClip(page(), clip);
     if (pasted.empty())
         return;

@@ -275,6 +275,8 @@ void addFromMenu(int menuIndex)
     pageEdited("Add " + objectName(object(index).kind));
 }
 
+void tellDeleted(const std::string &what) { documentEvents().notice("Deleted: " + what + ". Ctrl+Z brings it back."); }
+
 void deleteSelection()
 {
     const std::int16_t before = objectCount(page());
@@ -292,7 +294,7 @@ void deleteSelection()
         return;
     const std::string what = one ? name : std::to_string(deleted) + (deleted == 1 ? " object" : " objects");
     pageEdited("Delete " + what);
-    documentEvents().notice("Deleted: " + what + ". Ctrl+Z brings it back.");
+    tellDeleted(what);
 }
 
 } // namespace corvanta

@@ -73,6 +73,9 @@ void runCommand(Command command);
 // Adds a new object of the kind whose item of the Add submenu has this index (from 1).
 void addFromMenu(int menuIndex);
 
+// Tells in the status panel what was deleted, and how it comes back.
+void tellDeleted(const std::string &what);
+
 // Deletes the members of the multi-selection while it is in use, else the current object.
 void deleteSelection();
 

@@ -71,6 +71,7 @@ constexpr MenuRow contextRows[] = {
     {"csave", "&Save...", 0, Command::SaveObject, ""},
     {"canimate", "A&nimate", 0, Command::Animate, ""},
     {"cdash4", "-", 0, Command::None, ""},
+    {"clist", "Ob&ject List", 0, Command::ObjectList, ""},
     {"cprops", "Prop&erties...", 0, Command::ObjectProperties, ""},
     {"cshared", "Properties of &Many...", 0, Command::SharedProperties, ""},
     {"cpageprops", "Pa&ge Properties...", 0, Command::PageProperties, ""},

@@ -5,6 +5,7 @@
 #include "document/kinds.h"
 #include "document/objects.h"
 #include "platform/text.h"
+#include "shell/commands.h"
 
 namespace corvanta {
 
@@ -43,9 +44,10 @@ void deleteListedObject(std::int16_t index)
 {
     if (!hasObject(page(), index))
         return;
-    const std::string act = "Delete " + objectName(page().objects[static_cast<std::size_t>(index)].kind);
+    const std::string name = objectName(page().objects[static_cast<std::size_t>(index)].kind);
     deleteObject(index);
-    pageEdited(act);
+    pageEdited("Delete " + name);
+    tellDeleted(name);
 }
 
 } // namespace corvanta

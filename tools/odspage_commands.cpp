@@ -1,6 +1,6 @@
 #include "tools/odspage_commands.h"
 
-#include "document/page.h"
+#include "document/page_file.h"
 #include "document/reading_failure.h"
 #include "platform/codepage.h"
 #include "platform/host_files.h"
@@ -115,7 +115,11 @@ std::string writeFileOrPipe(ToolRun &run, const std::string &file, std::string_v
         std::ofstream pipe(file, std::ios::binary);
         return writeStream(pipe, bytes);
     }
-    const auto error = writeHostFileAtomically(std::filesystem::absolute(file), bytes);
+    Page p;
+    if (isPageFile(bytes))
+        parsePage(p, bytes);
+    const FileMode mode = connectPart(p, 2).empty() ? FileMode::Usual : FileMode::Private; // a password
+    const auto error = writeHostFileAtomically(std::filesystem::absolute(file), bytes, mode);
     return error ? toUtf8(*error) : std::string();
 }
 

@@ -12,6 +12,7 @@
 
 #include <CLI/CLI.hpp>
 #include <QApplication>
+#include <QTimer>
 
 #include <cstdlib>
 #include <string>
@@ -21,6 +22,7 @@ namespace {
 using namespace corvanta;
 
 constexpr int wrongUsage = 2;
+constexpr int leavingBeat = 20; // milliseconds
 
 struct CommandLine {
     std::string pageFile;
@@ -62,15 +64,17 @@ int runEditor(int argc, char **argv)
     EditorWindows windows;
     windows.ended = &QApplication::quit;
     const Rooms rooms(windows);
-    watchSignals([] {
+    QTimer leaving; // out of every dialog and message, without asking the windows; their session ends below
+    QObject::connect(&leaving, &QTimer::timeout, [] { QApplication::exit(0); });
+    watchSignals([&leaving] {
         interruptSession();
-        QApplication::exit(0); // out of every dialog, without asking the windows; their session ends below
+        leaving.start(leavingBeat);
     });
     QObject::connect(&application, &QGuiApplication::commitDataRequest, &application, keepSession,
                      Qt::DirectConnection);
     windows.start(line.pageFile);
     watchPauses();
-    const int code = QApplication::exec();
+    const int code = leaving.isActive() ? 0 : QApplication::exec(); // a signal may come during the start
     windows.end();
     setEventLoop({}); // abandoned threads tell nothing any more
     return code;

@@ -49,6 +49,22 @@ TEST_F(Damage, OldBytesAreKeptAtTheFirstSave)
     EXPECT_FALSE(fileDamage());
 }
 
+TEST_F(Damage, AFileThatCouldNotBeReadIsKeptWithItsMode)
+{
+    const TemporaryDrive drive;
+    const std::string large(fileLimit + 5, 'x');
+    const auto file = drive.add("LARGE.ODS", large);
+    std::filesystem::permissions(file, std::filesystem::perms(0600));
+    ScriptedAsking user;
+    editing().msgflag = false;
+    openPage("C:\\LARGE.ODS");
+    EXPECT_TRUE(fileDamage());
+    pageEdited("x");
+    ASSERT_TRUE(savePage());
+    EXPECT_EQ(hostBytes(drive.root() / "LARGE.ODS.bak"), large);
+    EXPECT_EQ(std::filesystem::status(drive.root() / "LARGE.ODS.bak").permissions(), std::filesystem::perms(0600));
+}
+
 TEST_F(Damage, FilesThatHoldPasswordsAreTheUsersOwn)
 {
     const TemporaryDrive drive;

@@ -1,3 +1,4 @@
+#include "document/file_state.h"
 #include "document/history.h"
 #include "document/recovery.h"
 #include "shell/recovery_offer.h"
@@ -131,6 +132,14 @@ TEST_F(Recovery, WhatADeadEditorLeftIsOffered)
     leaveALostPage("again");
     offered(1);
     EXPECT_TRUE(files(".page").empty());
+}
+
+TEST_F(Recovery, ARecoveredPageKnowsThatItsFileIsDamaged)
+{
+    drive.add("MENU.ODS", samples::sample("menu.ods").substr(0, 700));
+    leaveALostPage("lost");
+    recoverPage(lostPages(folder()).at(0));
+    EXPECT_TRUE(fileDamage());
 }
 
 TEST_F(Recovery, DamagedFilesAreNoPagesAndStay)
