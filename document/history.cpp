@@ -66,9 +66,26 @@ void push(Step step)
     h.at = h.steps.size() - 1;
 }
 
+// Steps hold the data source's password.
+void forget(Step &step)
+{
+    wipe(step.state.dbconnect);
+    wipe(step.bytes);
+}
+
+void forgetAll()
+{
+    for (Step &step : history().steps)
+        forget(step);
+    wipe(history().saved);
+    history().steps.clear();
+    history().memory = 0;
+}
+
 void dropLast()
 {
     history().memory -= history().steps.back().memory;
+    forget(history().steps.back());
     history().steps.pop_back();
 }
 
@@ -77,6 +94,7 @@ void dropOldest()
     History &h = history();
     while (h.steps.size() > 2 && (h.steps.size() > historySteps + 1 || h.memory > historyBytes)) {
         h.memory -= h.steps.front().memory;
+        forget(h.steps.front());
         h.steps.pop_front();
         --h.at;
     }
@@ -107,12 +125,13 @@ void restore(std::size_t at)
     History &h = history();
     h.at = at;
     const Step &step = h.steps[at];
-    const Page before = std::exchange(page(), step.state);
+    Page before = std::exchange(page(), step.state);
     editing().curobj = step.curobj;
     editing().multcount = step.multcount;
     editing().lentSize = step.lentSize;
     editing().pagedirty = step.bytes != h.saved;
     documentEvents().pageRestored(before);
+    wipe(before.dbconnect);
     documentEvents().objectCount();
 }
 
@@ -124,18 +143,16 @@ void startHistory()
     history().listening = documentEvents().edited.connect(record);
 }
 
-void stopHistory() { history() = {}; }
+void stopHistory()
+{
+    forgetAll();
+    history() = {};
+}
 
 void resetHistory(FirstState first)
 {
     History &h = history();
-    for (Step &step : h.steps) { // they hold the data source's password
-        wipe(step.state.dbconnect);
-        wipe(step.bytes);
-    }
-    wipe(h.saved);
-    h.steps.clear();
-    h.memory = 0;
+    forgetAll();
     push(present(""));
     if (first == FirstState::Saved)
         h.saved = h.steps.back().bytes;

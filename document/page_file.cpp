@@ -63,11 +63,13 @@ void tellOfReadablePassword(const std::string &path)
 
 bool writePage(const std::string &path)
 {
-    const std::string text = pageText();
+    std::string text = pageText();
     removeStrayFiles(directoryOfFile(path));
     if (text.size() <= fileLimit && !keepDamagedBytes(path))
         return false;
-    if (!writeWholeFile(path, text, holdsPassword(page()) ? FileMode::Private : FileMode::Usual))
+    const bool written = writeWholeFile(path, text, holdsPassword(page()) ? FileMode::Private : FileMode::Usual);
+    wipe(text);
+    if (!written)
         return false;
     rememberFile(path);
     tellOfReadablePassword(path);

@@ -4,11 +4,13 @@
 #include "canvas/selection.h"
 #include "database/catalogue.h"
 #include "document/events.h"
+#include "document/history.h"
 #include "document/kinds.h"
 #include "document/objects.h"
 #include "document/page_file.h"
 #include "document/recovery.h"
 #include "platform/codepage.h"
+#include "platform/files.h"
 #include "platform/help.h"
 #include "platform/multimedia.h"
 #include "platform/paths.h"
@@ -180,6 +182,8 @@ void endSession()
     stopRecovery(RecoveryFile::Remove);
     mciSendString("Close all");
     clearObjects();
+    stopHistory();
+    wipe(page().dbconnect);
     storeSettings();
     showHelp(HelpCommand::Quit);
     if (pageMenuMarks().odbcToolbar)
