@@ -19,6 +19,9 @@ bool written(Kind kind) { return !kindRow(kind).drawnOnPage && kind != Kind::Ani
 bool excludable(Kind kind) { return kind == Kind::TextBox || kind == Kind::File; }
 bool guarded(Kind kind) { return excludable(kind) || kind == Kind::ImageDb; }
 bool multiLine(Kind kind) { return kind == Kind::TextBox; }
+bool transparent(Kind kind) { return kind == Kind::Label; }
+bool bordered(Kind kind) { return kind == Kind::Label || kind == Kind::Ticker; }
+bool moving(Kind kind) { return kind == Kind::Animation; }
 bool hovering(Kind kind)
 {
     return kind == Kind::HotSpot || kind == Kind::Label || kind == Kind::Image || kind == Kind::Animation ||
@@ -89,6 +92,9 @@ std::span<const SharedField, sharedFieldCount> sharedFields()
         flag("exludesql", "&Exlude from SQL", excludable, &PropertyFields::exludesql),
         flag("invisible", "&Invisible", excludable, &PropertyFields::invisible),
         flag("multi", "&Multi Line", multiLine, &PropertyFields::multi),
+        flag("trans", "T&ransparent Background", transparent, &PropertyFields::trans),
+        flag("bstyle", "B&order", bordered, &PropertyFields::bstyle),
+        flag("strictime", "Use stricter anim&ation timing", moving, &PropertyFields::strictime),
     };
     return fields;
 }

@@ -18,7 +18,7 @@ struct SharedField {
     bool PropertyFields::*flag = nullptr;
 };
 
-inline constexpr std::size_t sharedFieldCount = 14;
+inline constexpr std::size_t sharedFieldCount = 17;
 std::span<const SharedField, sharedFieldCount> sharedFields();
 
 // Bit i stands for sharedFields()[i].

@@ -154,14 +154,16 @@ void SharedDialog::watchChoice(std::size_t field, QComboBox &list)
 void SharedDialog::watchFlag(std::size_t field, QCheckBox &box)
 {
     bool &value = shared.values.*sharedFields()[field].flag;
+    const QString caption = box.text();
     if (shared.different[field]) {
-        box.setToolTip(differs);
+        box.setText(box.text() + ' ' + differs);
         box.setCheckState(Qt::PartiallyChecked);
     } else {
         box.setChecked(value);
     }
-    connect(&box, &QCheckBox::clicked, this, [this, field, &box, &value] {
+    connect(&box, &QCheckBox::clicked, this, [this, field, caption, &box, &value] {
         box.setTristate(false);
+        box.setText(caption);
         value = box.isChecked();
         touched.set(field);
     });

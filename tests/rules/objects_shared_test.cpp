@@ -37,6 +37,8 @@ TEST_F(SharedPropertiesOf, KindsAreTheFieldsThatAllHave)
          {"pheight", "pwidth", "keyreq", "sptext", "condobjname", "col", "font", "readonly", "exludesql", "invisible"}},
         {{Kind::Button, Kind::Label}, {"pheight", "pwidth", "keyreq", "sptext", "font", "alignment"}},
         {{Kind::HotSpot, Kind::Animation}, {"keyreq", "sptext", "hover"}},
+        {{Kind::Label, Kind::Ticker}, {"pheight", "pwidth", "keyreq", "sptext", "col", "font", "bstyle"}},
+        {{Kind::Animation, Kind::Animation}, {"keyreq", "sptext", "hover", "strictime"}},
     };
     for (const auto &[kinds, expected] : cases) {
         clearObjects();
