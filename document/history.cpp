@@ -50,10 +50,10 @@ std::size_t memoryOf(const Step &step)
     return sizeof(Step) + bytesOf(p.objects) + elements + side + 3 * step.bytes.size(); // texts, roughly
 }
 
-Step present(std::string_view act)
+Step present(std::string_view act, std::string bytes)
 {
     Step step{std::string(act), page(), editing().curobj, editing().multcount, editing().lentSize,
-              pageText(),       0,      tickCount()};
+              std::move(bytes), 0,      tickCount()};
     step.memory = memoryOf(step);
     return step;
 }
@@ -111,12 +111,17 @@ void record(std::string_view act)
     History &h = history();
     if (h.steps.empty())
         return;
+    std::string bytes = pageText();
+    if (bytes == h.steps[h.at].bytes) { // the act has changed nothing that could be taken back
+        wipe(bytes);
+        return noteSelection();
+    }
     if (continues(h.steps[h.at], act))
         dropLast();
     else
         while (h.steps.size() > h.at + 1)
             dropLast();
-    push(present(act));
+    push(present(act, std::move(bytes)));
     dropOldest();
 }
 
@@ -153,7 +158,7 @@ void resetHistory(FirstState first)
 {
     History &h = history();
     forgetAll();
-    push(present(""));
+    push(present("", pageText()));
     if (first == FirstState::Saved)
         h.saved = h.steps.back().bytes;
 }
@@ -177,6 +182,12 @@ void noteSelection()
     step.multcount = editing().multcount;
     for (std::size_t i = 0; i < page().objects.size(); ++i)
         step.state.objects[i].selslot = page().objects[i].selslot;
+}
+
+const std::string &wholeActBytes()
+{
+    static const std::string none;
+    return history().steps.empty() ? none : history().steps[history().at].bytes;
 }
 
 std::string undoName() { return history().at > 0 ? history().steps[history().at].act : std::string(); }

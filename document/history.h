@@ -23,6 +23,10 @@ void markHistorySaved();
 // Takes the present selection as the one that belongs to the latest step; called when the author's act is over.
 void noteSelection();
 
+// The bytes that saving the state after the latest whole act writes, also while another act is half done. Empty when
+// there is no history.
+const std::string &wholeActBytes();
+
 // The names of the acts that can be taken back and done again; empty for none.
 std::string undoName();
 std::string redoName();

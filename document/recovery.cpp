@@ -91,12 +91,17 @@ void writeFile(const fs::path &file, const std::string &bytes)
         unlink(half.c_str());
 }
 
+// In one piece, so that no copy of the page's password is left in memory that was grown out of.
 std::string recoveryText()
 {
     const std::int64_t now = std::time(nullptr);
-    return std::string(magic) + encodeString(editing().filetag) + encodeString(editing().curdir) +
-           encodeString(rememberedStamp()) + encodeInt32(static_cast<std::int32_t>(now >> 32)) +
-           encodeInt32(static_cast<std::int32_t>(now)) + pageText();
+    const std::string head = std::string(magic) + encodeString(editing().filetag) + encodeString(editing().curdir) +
+                             encodeString(rememberedStamp()) + encodeInt32(static_cast<std::int32_t>(now >> 32)) +
+                             encodeInt32(static_cast<std::int32_t>(now));
+    const std::string &page = wholeActBytes();
+    std::string text;
+    text.reserve(head.size() + page.size());
+    return text.append(head).append(page);
 }
 
 void update()
@@ -106,7 +111,10 @@ void update()
     recovery->waiting = false;
     const fs::path file = recovery->file;
     if (editing().pagedirty)
-        recovery->writer->post([file, bytes = recoveryText()] { writeFile(file, bytes); });
+        recovery->writer->post([file, bytes = recoveryText()]() mutable {
+            writeFile(file, bytes);
+            wipe(bytes);
+        });
     else
         recovery->writer->post([file] { unlink(file.c_str()); });
 }
@@ -127,10 +135,8 @@ void listen(EventConnections &connections)
     connections.add(events.clean, update);
 }
 
-std::optional<LostPage> readLost(const fs::path &file)
+std::optional<LostPage> lostPageOf(std::string_view text)
 {
-    const FileContent content = readHostFile(file, longestFile);
-    std::string_view text = content.bytes;
     if (!text.starts_with(magic))
         return {};
     text.remove_prefix(magic.size());
@@ -142,8 +148,17 @@ std::optional<LostPage> readLost(const fs::path &file)
                low = static_cast<std::uint32_t>(decodeInt32(text));
     lost.time = static_cast<std::int64_t>(std::uint64_t{high} << 32 | low);
     lost.bytes = text;
-    lost.file = file;
-    return lost.bytes.empty() ? std::nullopt : std::optional(lost);
+    return lost.bytes.empty() ? std::nullopt : std::optional(std::move(lost));
+}
+
+std::optional<LostPage> readLost(const fs::path &file)
+{
+    FileContent content = readHostFile(file, longestFile);
+    std::optional<LostPage> lost = lostPageOf(content.bytes);
+    wipe(content.bytes);
+    if (lost)
+        lost->file = file;
+    return lost;
 }
 
 void removeHalf(const fs::path &file)
@@ -254,6 +269,8 @@ void recoverPage(const LostPage &lost)
     flushRecovery();
     removeFiles(lost.file);
 }
+
+LostPage::~LostPage() { wipe(bytes); }
 
 void discardLostPage(const LostPage &lost) { removeFiles(lost.file); }
 

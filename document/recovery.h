@@ -36,6 +36,11 @@ struct LostPage {
     std::string bytes;     // of the page
     std::filesystem::path file;
     std::shared_ptr<void> lock;
+
+    LostPage() = default;
+    LostPage(LostPage &&) = default;
+    LostPage &operator=(LostPage &&) = default;
+    ~LostPage(); // wipes the bytes, which may hold a password
 };
 
 // In the order of their times. Damaged files are no pages; they stay.

@@ -1,5 +1,6 @@
 #include "shell/recovery_offer.h"
 
+#include "document/events.h"
 #include "document/recovery.h"
 #include "platform/asking.h"
 
@@ -19,18 +20,27 @@ std::string timeOf(const LostPage &lost)
     return text;
 }
 
+// This editor holds one page; the others' are not lost.
+void tellOthers(std::ptrdiff_t count)
+{
+    if (count > 0)
+        documentEvents().notice("Recovered. The next start of the editor offers " + std::to_string(count) +
+                                (count == 1 ? " more page." : " more pages."));
+}
+
 } // namespace
 
 void offerLostPages()
 {
-    for (const LostPage &lost : lostPages(recoveryFolder())) {
+    const std::vector<LostPage> offered = lostPages(recoveryFolder());
+    for (const LostPage &lost : offered) {
         const std::string name = lost.filetag.empty() ? "a new page" : lost.filetag;
         switch (askChoice(
             {.text = "The editor ended with changes to " + name + " that were not saved, last at " + timeOf(lost) + ".",
              .title = "Corvanta Form Editor",
              .icon = Icon::Question,
              .captions = {"&Recover", "&Discard", "&Later"}})) {
-        case 0: return recoverPage(lost);
+        case 0: recoverPage(lost); return tellOthers(&offered.back() - &lost);
         case 1: discardLostPage(lost); break;
         default: break;
         }

@@ -7,6 +7,7 @@
 #include "canvas/ui/drop.h"
 #include "canvas/ui/editform.h"
 #include "document/events.h"
+#include "document/file_state.h"
 #include "platform/qt/text.h"
 
 #include <QContextMenuEvent>
@@ -243,7 +244,8 @@ void Editform::scrollToCurrent()
     scroller->ensureVisible(r.left, r.top, handleSize, handleSize);
 }
 
-// What a gesture does, else the status text of the object under the pointer, else of the current object.
+// What a gesture does, else the status text of the object under the pointer, else of the current object, else what is
+// damaged in the page's file.
 void Editform::showStatus(std::int16_t pointed)
 {
     if (tabOrderActive())
@@ -251,8 +253,8 @@ void Editform::showStatus(std::int16_t pointed)
     if (gesture().outlineShown)
         return statusPanel->setStatus(toQString(gestureText()));
     const std::int16_t index = pointed == noObject ? editing().curobj : pointed;
-    statusPanel->setStatus(hasObject(page(), index) ? toQString(page().objects[static_cast<std::size_t>(index)].sptext)
-                                                    : QString());
+    statusPanel->setStatus(toQString(hasObject(page(), index) ? page().objects[static_cast<std::size_t>(index)].sptext
+                                                              : fileDamage().summary));
 }
 
 } // namespace corvanta

@@ -37,6 +37,7 @@
 #include <QApplication>
 #include <QLocale>
 #include <QTimer>
+#include <QWindow>
 
 #include <cmath>
 
@@ -136,13 +137,19 @@ void EditorWindows::followSelection()
     connections.add(canvas.hideFrameMarkers, [note](std::int16_t) { note(); });
 }
 
-// The author comes back from another program, which may have changed the page's file.
+// The author comes back from another program, which may have changed the page's file, or from a dialog that was open
+// meanwhile. Looked at when the dialog's own steps are over.
 void EditorWindows::watchFile()
 {
-    QObject::connect(qApp, &QGuiApplication::applicationStateChanged, hpsedit.get(), [this](Qt::ApplicationState now) {
-        const bool free = editform && hpsedit->isEnabled() && !QApplication::activeModalWidget();
-        if (now == Qt::ApplicationActive && free && !gesture().dragging && !gesture().resizing)
+    const auto look = [this] {
+        const bool free = editform && hpsedit->isEnabled() && !QApplication::activeModalWidget() &&
+                          !QApplication::activePopupWidget();
+        if (QApplication::activeWindow() && free && !gesture().dragging && !gesture().resizing)
             loadAgainIfChanged();
+    };
+    QObject::connect(qApp, &QGuiApplication::focusWindowChanged, hpsedit.get(), [this, look](const QWindow *now) {
+        if (now)
+            QTimer::singleShot(0, hpsedit.get(), look);
     });
 }
 

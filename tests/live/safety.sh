@@ -62,7 +62,10 @@ focus_canvas
 click_at 60 190
 keys Delete
 cp samples/query.ods "$page"
-save
+activate 'Corvanta Form Editor'
+wait_until has_window 'Reading File'
+keys alt+k
+keys ctrl+s
 wait_until has_window 'Saving File'
 keys Escape
 cmp samples/query.ods "$page" || fail "The other program's file was overwritten"
@@ -100,6 +103,31 @@ keys Delete
 save
 sleep 0.5
 cmp <(head -c 700 samples/menu.ods) "$page.bak" || fail "The old bytes are not kept"
+kill -9 "$editor_pid"; wait "$editor_pid" 2>/dev/null || true
+rm -rf "$work/state"
+
+echo "A limit of the size of files ends in a message, in the tools and in the editor"
+fresh_page
+"$programs/odspage" dump "$page" >"$work/menu.json"
+limited() { # PROGRAM ARGUMENT...: writes under the limit of one kilobyte
+  local said
+  said=$(ulimit -f 1 && "$@" 2>&1 >/dev/null) && fail "$1 wrote beyond the limit"
+  [ -n "$said" ] || fail "$1 said nothing: a signal ended it"
+}
+limited "$programs/odspage" build "$work/menu.json" "$work/limited.ods"
+limited "$programs/odspage" html "$page"
+limited "$programs/ods2hts" "$page" "$work/limited.hts"
+limited env QT_QPA_PLATFORM=offscreen "$programs/odsrender" "$page" "$work/limited.png"
+[ -z "$(find "$work" -name 'limited*' -size +0)" ] || fail "A tool left half a file"
+(ulimit -f 1 && exec "$programs/corvanta" "$page") 2>>"$work/editor.log" &
+editor_pid=$!
+wait_until has_window "$title"
+click_at 60 150
+keys ctrl+d
+save
+wait_until has_window 'Saving File'
+keys Return
+cmp samples/menu.ods "$page" || fail "The refused save changed the file"
 kill -9 "$editor_pid"; wait "$editor_pid" 2>/dev/null || true
 rm -rf "$work/state"
 

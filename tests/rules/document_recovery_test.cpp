@@ -21,8 +21,14 @@ protected:
     {
         setenv("XDG_STATE_HOME", (drive.root() / "state").c_str(), 1);
         drive.add("MENU.ODS", samples::sample("menu.ods"));
+        startHistory();
+        newPage();
     }
-    ~Recovery() override { stopRecovery(RecoveryFile::Remove); }
+    ~Recovery() override
+    {
+        stopRecovery(RecoveryFile::Remove);
+        stopHistory();
+    }
 
     void start()
     {
@@ -76,7 +82,10 @@ TEST_F(Recovery, TheFileFollowsThePage)
     EXPECT_FALSE(soon);
     edit("one");
     edit("two");
+    page().pgcaption = "half of an act, whose question is open";
     runSoon();
+    EXPECT_EQ(hostBytes(files(".page").at(0)).find("half of"), std::string::npos);
+    page().pgcaption = "two";
     ASSERT_EQ(files(".page").size(), 1U);
     struct stat status;
     ASSERT_EQ(stat(files(".page")[0].c_str(), &status), 0);
