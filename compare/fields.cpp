@@ -119,9 +119,9 @@ ComparedPage takenApart(const Page &p)
     FieldLister lister;
     headerFields(lister, p);
     std::erase_if(lister.fields, [](const Field &field) { return field.name == versionField; });
-    ByteWriter columns;
-    columns.gridColumns(p.gridcolumns);
-    lister.fields.push_back({columnsField, columns.out, std::to_string(gridColumnCount(p))});
+    std::string columns;
+    ByteWriter(columns).gridColumns(p.gridcolumns);
+    lister.fields.push_back({columnsField, std::move(columns), std::to_string(gridColumnCount(p))});
     parts.header = std::move(lister.fields);
     for (std::int16_t i = 0; i < objectCount(p); ++i)
         parts.objects.push_back(objectApart(p, i));

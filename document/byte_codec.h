@@ -22,9 +22,9 @@ public:
         if (!std::isfinite(v))
             v = 0;
     }
-    void text(const char *, std::string &v) { v = decodeString(in); }
-    void action(const char *, std::string &v) { v = decodeString(in); }
-    void optionalText(const char *, std::string &v) { v = in.empty() ? std::string() : decodeString(in); }
+    void text(const char *, std::string &v) { v = takeString(in); }
+    void action(const char *, std::string &v) { v = takeString(in); }
+    void optionalText(const char *, std::string &v) { v = takeString(in); }
     template <class Body> void group(const char *, Body body) { body(*this); }
     template <class T, class Each> void counted(const char *, std::vector<T> &entries, std::size_t limit, Each each)
     {
@@ -45,8 +45,7 @@ public:
     void gridColumns(std::vector<GridColumn> &columns)
     {
         columns.assign(readCount(gridColumnLimit) + 1, GridColumn{});
-        const std::string block = decodeString(in);
-        std::string_view left = block;
+        std::string_view left = takeString(in);
         ByteReader inner(left, pgversion);
         for (std::size_t i = 0; i + 1 < columns.size(); ++i)
             gridColumnFields(inner, columns[i]);
@@ -63,22 +62,22 @@ private:
     std::int16_t pgversion;
 };
 
-// Runs the record descriptions over records and collects their bytes.
+// Runs the record descriptions over records and appends their bytes.
 class ByteWriter {
 public:
-    std::string out;
+    explicit ByteWriter(std::string &bytes) : out(bytes) {}
 
-    void int16(const char *, std::int16_t v) { out += encodeInt16(v); }
-    void int32(const char *, std::int32_t v) { out += encodeInt32(v); }
-    void truth(const char *, bool v) { out += encodeInt16(v ? -1 : 0); }
-    void single(const char *, float v) { out += encodeSingle(v); }
-    void text(const char *, const std::string &v) { out += encodeString(v); }
-    void action(const char *, const std::string &v) { out += encodeString(v); }
-    void optionalText(const char *, const std::string &v) { out += encodeString(v); }
+    void int16(const char *, std::int16_t v) { appendInt16(out, v); }
+    void int32(const char *, std::int32_t v) { appendInt32(out, v); }
+    void truth(const char *, bool v) { appendInt16(out, v ? -1 : 0); }
+    void single(const char *, float v) { appendSingle(out, v); }
+    void text(const char *, const std::string &v) { appendString(out, v); }
+    void action(const char *, const std::string &v) { appendString(out, v); }
+    void optionalText(const char *, const std::string &v) { appendString(out, v); }
     template <class Body> void group(const char *, Body body) { body(*this); }
     template <class T, class Each> void counted(const char *, const std::vector<T> &entries, std::size_t, Each each)
     {
-        out += encodeInt16(static_cast<std::int16_t>(entries.size()));
+        appendInt16(out, static_cast<std::int16_t>(entries.size()));
         for (const T &entry : entries)
             each(*this, entry);
     }
@@ -93,12 +92,16 @@ public:
     }
     void gridColumns(const std::vector<GridColumn> &columns)
     {
-        ByteWriter inner;
+        appendInt16(out, static_cast<std::int16_t>(columns.size() - 1));
+        const std::size_t mark = beginString(out);
         for (std::size_t i = 0; i + 1 < columns.size(); ++i)
-            gridColumnFields(inner, columns[i]);
-        out += encodeInt16(static_cast<std::int16_t>(columns.size() - 1)) + encodeString(inner.out);
+            gridColumnFields(*this, columns[i]);
+        endString(out, mark);
     }
     bool strictTiming() const { return true; }
+
+private:
+    std::string &out;
 };
 
 } // namespace corvanta

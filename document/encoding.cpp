@@ -1,62 +1,83 @@
 #include "document/encoding.h"
 
-#include <algorithm>
-#include <bit>
-
 namespace corvanta {
 
 namespace {
 
 constexpr std::size_t longestString = 32767;
 
-std::string littleEndian(std::uint32_t value, int bytes)
+template <std::size_t Bytes> void appendLittleEndian(std::string &bytes, std::uint32_t value)
 {
-    std::string text;
-    for (int i = 0; i < bytes; ++i)
-        text += static_cast<char>((value >> (8 * i)) & 0xFF);
-    return text;
-}
-
-std::uint32_t takeLittleEndian(std::string_view &text, std::size_t bytes)
-{
-    const std::size_t present = std::min(bytes, text.size());
-    std::uint32_t value = 0;
-    for (std::size_t i = 0; i < present; ++i)
-        value |= static_cast<std::uint32_t>(static_cast<unsigned char>(text[i])) << (8 * i);
-    text.remove_prefix(present);
-    return value;
+    char digits[Bytes];
+    for (std::size_t i = 0; i < Bytes; ++i)
+        digits[i] = static_cast<char>((value >> (8 * i)) & 0xFF);
+    bytes.append(digits, Bytes);
 }
 
 } // namespace
 
-std::string encodeInt16(std::int16_t value) { return littleEndian(static_cast<std::uint16_t>(value), 2); }
+void appendInt16(std::string &bytes, std::int16_t value)
+{
+    appendLittleEndian<2>(bytes, static_cast<std::uint16_t>(value));
+}
 
-std::string encodeInt32(std::int32_t value) { return littleEndian(static_cast<std::uint32_t>(value), 4); }
+void appendInt32(std::string &bytes, std::int32_t value)
+{
+    appendLittleEndian<4>(bytes, static_cast<std::uint32_t>(value));
+}
 
-std::string encodeSingle(float value) { return littleEndian(std::bit_cast<std::uint32_t>(value), 4); }
+void appendSingle(std::string &bytes, float value)
+{
+    appendLittleEndian<4>(bytes, std::bit_cast<std::uint32_t>(value));
+}
+
+void appendString(std::string &bytes, std::string_view text)
+{
+    text = text.substr(0, longestString);
+    appendInt16(bytes, static_cast<std::int16_t>(text.size()));
+    bytes.append(text);
+}
+
+std::size_t beginString(std::string &bytes)
+{
+    appendInt16(bytes, 0);
+    return bytes.size();
+}
+
+void endString(std::string &bytes, std::size_t mark)
+{
+    const std::size_t length = std::min(bytes.size() - mark, longestString);
+    bytes.resize(mark + length);
+    bytes[mark - 2] = static_cast<char>(length & 0xFF);
+    bytes[mark - 1] = static_cast<char>(length >> 8);
+}
+
+std::string encodeInt16(std::int16_t value)
+{
+    std::string bytes;
+    appendInt16(bytes, value);
+    return bytes;
+}
+
+std::string encodeInt32(std::int32_t value)
+{
+    std::string bytes;
+    appendInt32(bytes, value);
+    return bytes;
+}
+
+std::string encodeSingle(float value)
+{
+    std::string bytes;
+    appendSingle(bytes, value);
+    return bytes;
+}
 
 std::string encodeString(std::string_view text)
 {
-    text = text.substr(0, longestString);
-    return encodeInt16(static_cast<std::int16_t>(text.size())).append(text);
-}
-
-std::int16_t decodeInt16(std::string_view &text) { return static_cast<std::int16_t>(takeLittleEndian(text, 2)); }
-
-std::int32_t decodeInt32(std::string_view &text) { return static_cast<std::int32_t>(takeLittleEndian(text, 4)); }
-
-float decodeSingle(std::string_view &text) { return std::bit_cast<float>(takeLittleEndian(text, 4)); }
-
-std::string decodeString(std::string_view &text)
-{
-    const std::int16_t length = decodeInt16(text);
-    if (length < 0) {
-        text = {};
-        return {};
-    }
-    const std::string_view taken = text.substr(0, static_cast<std::size_t>(length));
-    text.remove_prefix(taken.size());
-    return std::string(taken);
+    std::string bytes;
+    appendString(bytes, text);
+    return bytes;
 }
 
 } // namespace corvanta

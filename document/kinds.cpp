@@ -35,13 +35,6 @@ const RegisteredKind &registered(std::int16_t code)
 
 } // namespace
 
-std::optional<Kind> kindOf(std::int16_t code)
-{
-    if (code < firstKind || code > lastKind)
-        return std::nullopt;
-    return static_cast<Kind>(code);
-}
-
 const KindRow &kindRow(Kind kind) { return kindRows[static_cast<std::size_t>(kind) - 1]; }
 
 std::vector<RegisteredKind> &kindRegistry()

@@ -38,7 +38,10 @@ enum class Kind : std::int16_t {
 inline constexpr std::int16_t firstKind = 1, lastKind = 13;
 
 // The kind of a code; none for a code outside 1..13.
-std::optional<Kind> kindOf(std::int16_t code);
+inline std::optional<Kind> kindOf(std::int16_t code)
+{
+    return code < firstKind || code > lastKind ? std::nullopt : std::optional(static_cast<Kind>(code));
+}
 
 // What is the same for every object of a kind.
 struct KindRow {

@@ -82,6 +82,12 @@ void placeElement(Element &e, const ObjectRecord &o)
     e.alignment = o.alignment;
 }
 
+void placeElementOf(Page &p, std::int16_t index)
+{
+    if (Element *e = elementOf(p, index))
+        placeElement(*e, p.objects[static_cast<std::size_t>(index)]);
+}
+
 void tellTickerLimit(const Page &p)
 {
     if (&p != &page() || !editing().msgflag)
@@ -91,16 +97,16 @@ void tellTickerLimit(const Page &p)
 }
 
 // The new object takes the former spare entry. noObject, and nothing is added, for a fourth ticker.
-std::int16_t growTables(Page &p, ObjectRecord record)
+std::int16_t growTables(Page &p, std::int16_t code)
 {
-    const auto kind = kindOf(record.kind);
+    const auto kind = kindOf(code);
     const std::int16_t n = kind ? loadElement(p, *kind) : std::int16_t{0};
     if (n == noObject) {
         tellTickerLimit(p);
         return noObject;
     }
     const std::int16_t index = objectCount(p);
-    p.objects.back() = std::move(record);
+    p.objects.back().kind = code;
     p.objects.emplace_back();
     p.ctlindex.back() = n;
     p.ctlindex.push_back(0);
@@ -109,9 +115,7 @@ std::int16_t growTables(Page &p, ObjectRecord record)
 
 std::int16_t createNew(Page &p, std::int16_t code)
 {
-    ObjectRecord record;
-    record.kind = code;
-    const std::int16_t index = growTables(p, std::move(record));
+    const std::int16_t index = growTables(p, code);
     const auto kind = kindOf(code);
     if (index != noObject && kind)
         setDefaults(p, index, *kind, p.ctlindex[static_cast<std::size_t>(index)]);
@@ -120,13 +124,14 @@ std::int16_t createNew(Page &p, std::int16_t code)
 
 std::int16_t createRead(Page &p, std::int16_t code, std::string_view &body)
 {
-    ObjectRecord record;
-    record.kind = code;
+    const std::int16_t index = growTables(p, code);
+    if (index == noObject)
+        return index;
     ByteReader reader(body, p.pgversion);
-    commonFields(reader, record);
-    const std::int16_t index = appendObject(p, std::move(record));
+    commonFields(reader, p.objects[static_cast<std::size_t>(index)]);
+    placeElementOf(p, index);
     const auto kind = kindOf(code);
-    if (index == noObject || !kind)
+    if (!kind)
         return index;
     std::vector<Frame> frames;
     kindTail(reader, p, *kind, p.ctlindex[static_cast<std::size_t>(index)], frames);
@@ -173,11 +178,11 @@ void moveCurrentAfterRemoval(std::int16_t index)
 
 std::int16_t appendObject(Page &p, ObjectRecord record)
 {
-    const std::int16_t index = growTables(p, std::move(record));
+    const std::int16_t index = growTables(p, record.kind);
     if (index == noObject)
         return index;
-    if (Element *e = elementOf(p, index))
-        placeElement(*e, p.objects[static_cast<std::size_t>(index)]);
+    p.objects[static_cast<std::size_t>(index)] = std::move(record);
+    placeElementOf(p, index);
     return index;
 }
 
@@ -259,8 +264,7 @@ void setObjectGeometry(std::int16_t index, std::int16_t top, std::int16_t left, 
     o.pleft = left;
     o.pheight = height;
     o.pwidth = width;
-    if (Element *e = elementOf(p, index))
-        placeElement(*e, o);
+    placeElementOf(p, index);
     editing().pagedirty = true;
     documentEvents().objectChanged(index);
 }

@@ -128,30 +128,51 @@ void readPageHeader(Page &p, std::string_view header)
     headerFields(reader, p);
 }
 
-} // namespace
+// Room for the objects that follow, so that their records are not moved about as the table grows.
+void reserveObjects(Page &p, std::string_view text)
+{
+    std::size_t count = p.objects.size();
+    for (; !text.empty(); ++count)
+        takeString(text);
+    p.objects.reserve(count);
+    p.ctlindex.reserve(count);
+}
 
-std::string serialiseObject(const Page &p, std::int16_t index)
+void appendObjectBytes(std::string &bytes, const Page &p, std::int16_t index)
 {
     const auto i = static_cast<std::size_t>(index);
     const ObjectRecord &o = p.objects.at(i);
-    ByteWriter body;
+    ByteWriter body(bytes);
+    const std::size_t mark = beginString(bytes);
     body.int16("kind", o.kind);
     commonFields(body, o);
     if (const auto kind = kindOf(o.kind)) {
         const auto frames = kind == Kind::Animation ? framesOf(p, index) : std::vector<Frame>();
         kindTail(body, p, *kind, p.ctlindex[i], frames);
     }
-    return encodeString(body.out);
+    endString(bytes, mark);
+}
+
+} // namespace
+
+std::string serialiseObject(const Page &p, std::int16_t index)
+{
+    std::string bytes;
+    appendObjectBytes(bytes, p, index);
+    return bytes;
 }
 
 std::string serialisePage(const Page &p)
 {
-    ByteWriter header;
+    std::string text;
+    text.reserve(fileLimit);
+    ByteWriter header(text);
+    const std::size_t mark = beginString(text);
     headerFields(header, p);
-    header.out.replace(0, 2, encodeInt16(currentVersion));
-    std::string text = encodeString(header.out);
+    endString(text, mark);
+    text.replace(mark, 2, encodeInt16(currentVersion));
     for (std::int16_t i = 0; i < objectCount(p); ++i)
-        text += serialiseObject(p, i);
+        appendObjectBytes(text, p, i);
     return text;
 }
 
@@ -171,15 +192,16 @@ void parsePage(Page &p, std::string_view text)
 {
     if (text.empty())
         return;
-    const std::string header = decodeString(text);
+    const std::string_view header = takeString(text);
     if (!header.empty())
         readPageHeader(p, header);
     if (&p == &page()) {
         editing().lentSize.reset();
         documentEvents().pageLayout();
     }
+    reserveObjects(p, text);
     while (!text.empty())
-        createVisual(p, decodeString(text));
+        createVisual(p, takeString(text));
 }
 
 bool isPageFile(std::string_view bytes)

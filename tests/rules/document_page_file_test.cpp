@@ -63,10 +63,11 @@ TEST(PageFile, CountsFromAFileAreBounded)
     const auto counts = [](std::int16_t kind, const std::string &tail) {
         ObjectRecord o;
         o.kind = kind;
-        ByteWriter body;
+        std::string bytes;
+        ByteWriter body(bytes);
         body.int16("", o.kind);
         commonFields(body, o);
-        return parsed(serialisePage(Page()) + encodeString(body.out + tail));
+        return parsed(serialisePage(Page()) + encodeString(bytes + tail));
     };
     const std::string fontBlock(4 + 2 + 2 + 2 + 4 + 2 + 2, '\0');
     const std::string white(4, '\xFF');
