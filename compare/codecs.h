@@ -2,9 +2,11 @@
 
 #include "compare/fields.h"
 #include "document/byte_codec.h"
+#include "platform/text.h"
 
 #include <algorithm>
-#include <cstdio>
+#include <charconv>
+#include <iterator>
 
 // The codecs behind fields.h, for the record descriptions of document/record_fields.h. A list is one value.
 namespace corvanta {
@@ -20,16 +22,16 @@ public:
     void int16(const char *name, std::int16_t v) { add(name, encodeInt16(v), std::to_string(v)); }
     void int32(const char *name, std::int32_t v)
     {
-        char hexadecimal[16];
-        std::snprintf(hexadecimal, sizeof hexadecimal, "0x%06X", static_cast<unsigned>(v));
+        const auto bits = static_cast<std::uint32_t>(v);
+        const std::string hexadecimal = "0x" + hexDigits(bits, bits > 0xFFFFFF ? 8 : 6);
         add(name, encodeInt32(v), hexadecimal);
     }
     void truth(const char *name, bool v) { add(name, encodeInt16(v ? -1 : 0), v ? "yes" : "no"); }
     void single(const char *name, float v)
     {
         char number[32];
-        std::snprintf(number, sizeof number, "%g", static_cast<double>(v));
-        add(name, encodeSingle(v), number);
+        const auto end = std::to_chars(number, std::end(number), v, std::chars_format::general, 6).ptr;
+        add(name, encodeSingle(v), std::string(number, end));
     }
     void text(const char *name, const std::string &v) { add(name, encodeString(v), inQuotes(v)); }
     void action(const char *name, const std::string &v) { add(name, encodeString(v), shownAction(v)); }

@@ -31,7 +31,7 @@ static std::int16_t convertedWith(const char *path, std::int32_t (*codePage)(std
     try {
         lastFailure.clear();
         lastFailure = failureOf(path, codePage(asked));
-        return lastFailure.empty() ? 1 : 0;
+        return static_cast<std::int16_t>(lastFailure.empty());
     } catch (const std::exception &) {
         return lastFailure.assign("out of memory"), 0; // fits without another allocation
     } catch (...) {

@@ -8,9 +8,9 @@
 #include <algorithm>
 #include <atomic>
 #include <chrono>
-#include <cstdio>
 #include <dlfcn.h>
 #include <filesystem>
+#include <iostream>
 #include <locale.h>
 #include <odbcinst.h>
 
@@ -94,6 +94,7 @@ std::vector<std::string> spellings(void *environment)
 std::vector<ListedName> listed(const std::vector<std::string> &sources)
 {
     std::vector<std::u16string> texts;
+    texts.reserve(sources.size());
     for (const std::string &source : sources)
         texts.push_back(utf16OfEither(source));
     return listedNames(texts);
@@ -243,7 +244,7 @@ OdbcHandle connectOdbc(void *environment, const std::string &dsn, const std::str
     else
         connection = connected(environment, source, user, password, why);
     if (!connection)
-        std::fputs(why.c_str(), stderr);
+        std::cerr << why;
     if (reason)
         *reason = connection ? std::string() : why;
     return connection;

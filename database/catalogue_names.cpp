@@ -3,9 +3,9 @@
 #include "database/catalogue.h"
 #include "database/sql.h"
 #include "platform/codepage.h"
+#include "platform/text.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <map>
 #include <set>
 
@@ -29,11 +29,8 @@ bool spellable(const std::u16string &text)
 std::string byNumbers(const std::u16string &text)
 {
     std::string numbers;
-    for (const char16_t unit : text.substr(0, mostSpelt)) {
-        char number[8];
-        std::snprintf(number, sizeof number, "U+%04X", static_cast<unsigned>(unit));
-        numbers += (numbers.empty() ? "" : " ") + std::string(number);
-    }
+    for (const char16_t unit : text.substr(0, mostSpelt))
+        numbers += (numbers.empty() ? "U+" : " U+") + hexDigits(unit, 4);
     return numbers;
 }
 
@@ -111,11 +108,8 @@ std::u16string doubled(const std::u16string &name, const std::u16string &mark)
 std::string escaped(const std::u16string &name)
 {
     std::string text = "U&\"";
-    for (const char16_t unit : name) {
-        char number[8];
-        std::snprintf(number, sizeof number, "\\%04X", static_cast<unsigned>(unit));
-        text += number;
-    }
+    for (const char16_t unit : name)
+        text += '\\' + hexDigits(unit, 4);
     return text + '"';
 }
 
@@ -158,6 +152,7 @@ std::vector<TableName> tableNames(const std::vector<DriverTable> &tables, const 
         ++schemas[t.name];
     const auto first = [&](const DriverTable &t) { return t.qualifier.empty() || t.qualifier == rules.firstSchema; };
     std::vector<Candidate> candidates;
+    candidates.reserve(tables.size());
     for (const DriverTable &t : tables)
         candidates.push_back({t.name, first(t) || schemas[t.name] == 1 ? std::u16string() : t.qualifier});
     const std::vector<ListedName> listed = unlikeEachOther(candidates);
@@ -186,6 +181,7 @@ std::u16string quotedName(const std::u16string &name, const std::u16string &mark
 std::vector<ListedName> listedNames(const std::vector<std::u16string> &spellings)
 {
     std::vector<Candidate> candidates;
+    candidates.reserve(spellings.size());
     for (const std::u16string &spelling : spellings)
         candidates.push_back({spelling, {}});
     return unlikeEachOther(candidates);

@@ -217,6 +217,7 @@ std::vector<OdbcTable> odbcTables(void *connection)
     if (tables.empty()) // a driver that tells a catalogue and knows none
         tables = toldTables(connection, catalogue, false);
     std::vector<DriverTable> names;
+    names.reserve(tables.size());
     for (const OdbcTable &table : tables) // without a catalogue of the connection's own it tells the tables apart
         names.push_back({catalogue.empty() && table.schema.empty() ? table.catalogue : table.schema, table.driverName});
     const NameRules rules = nameRules(connection);

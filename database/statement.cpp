@@ -61,8 +61,8 @@ bool bind(SQLHSTMT handle, SQLUSMALLINT number, const SqlParameter &parameter, U
     const bool isLong = bound.narrow.size() > longestVarchar;
     const std::size_t bytes = wide ? bound.wide.size() * sizeof(SQLWCHAR) : bound.narrow.size();
     bound.length = parameter.value ? static_cast<SQLLEN>(bytes) : SQL_NULL_DATA;
-    const SQLSMALLINT textType =
-        wide ? (isLong ? SQL_WLONGVARCHAR : SQL_WVARCHAR) : (isLong ? SQL_LONGVARCHAR : SQL_VARCHAR);
+    constexpr SQLSMALLINT wideTypes[] = {SQL_WVARCHAR, SQL_WLONGVARCHAR}, types[] = {SQL_VARCHAR, SQL_LONGVARCHAR};
+    const SQLSMALLINT textType = wide ? wideTypes[isLong] : types[isLong];
     const SQLULEN size = text ? std::max<SQLULEN>(bound.narrow.size(), 1) : parameter.column.size;
     const SQLPOINTER value = wide ? static_cast<SQLPOINTER>(bound.wide.data()) : bound.narrow.data();
     return SQL_SUCCEEDED(SQLBindParameter(handle, number, SQL_PARAM_INPUT, wide ? SQL_C_WCHAR : SQL_C_CHAR,

@@ -33,7 +33,7 @@ SqlResult readFirstRows(const Login &login, const std::string &statement, std::c
 
 } // namespace
 
-TablePreview::TablePreview(const Connection &c, int table, std::function<void(const SqlResult &)> told)
+TablePreview::TablePreview(const Connection &c, int table, const std::function<void(const SqlResult &)> &told)
     : wanted(std::make_shared<std::atomic<bool>>(true))
 {
     const CatalogueTimes times = catalogueTimes();

@@ -14,7 +14,7 @@ namespace corvanta {
 class TablePreview {
 public:
     // The rows, or why there are none, come to the event loop unless the preview has ended before.
-    TablePreview(const Connection &c, int table, std::function<void(const SqlResult &)> told);
+    TablePreview(const Connection &c, int table, const std::function<void(const SqlResult &)> &told);
     ~TablePreview();
     TablePreview(const TablePreview &) = delete;
     TablePreview &operator=(const TablePreview &) = delete;

@@ -8,12 +8,12 @@
 #include "document/page.h"
 #include "document/page_file.h"
 #include "platform/asking.h"
+#include "platform/environment.h"
 #include "platform/host_files.h"
 #include "platform/worker.h"
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdlib>
 #include <ctime>
 #include <fcntl.h>
 #include <optional>
@@ -85,9 +85,7 @@ void writeFile(const fs::path &file, const std::string &bytes)
         left.remove_prefix(static_cast<std::size_t>(written));
     }
     close(fd);
-    if (left.empty())
-        rename(half.c_str(), file.c_str());
-    else
+    if (!left.empty() || rename(half.c_str(), file.c_str()) != 0)
         unlink(half.c_str());
 }
 
@@ -180,10 +178,10 @@ void removeIdleLock(const fs::path &file)
 
 fs::path recoveryFolder()
 {
-    const char *state = std::getenv("XDG_STATE_HOME"), *home = std::getenv("HOME");
-    if (state && fs::path(state).is_absolute())
-        return fs::path(state) / "corvanta";
-    return home && *home ? fs::path(home) / ".local/state/corvanta" : fs::path();
+    const fs::path state = environmentValue("XDG_STATE_HOME"), home = environmentValue("HOME");
+    if (state.is_absolute())
+        return state / "corvanta";
+    return home.empty() ? fs::path() : home / ".local/state/corvanta";
 }
 
 void startRecovery(const fs::path &folder, std::function<void(Job)> soon)

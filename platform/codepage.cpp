@@ -1,11 +1,11 @@
 #include "platform/codepage.h"
 
 #include "platform/codepage_tables.h"
+#include "platform/environment.h"
 
 #include <algorithm>
 #include <array>
 #include <atomic>
-#include <cstdlib>
 #include <utility>
 #include <vector>
 
@@ -164,7 +164,7 @@ int codePageOfLocale(std::string_view locale)
 int codePageOfEnvironment()
 {
     for (const char *variable : {"LC_ALL", "LC_CTYPE", "LANG"})
-        if (const char *value = std::getenv(variable); value && *value)
+        if (const std::string value = environmentValue(variable); !value.empty())
             return codePageOfLocale(value);
     return codePageOfLocale("");
 }

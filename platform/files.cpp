@@ -298,6 +298,11 @@ void wipe(std::string &secret)
     secret.clear();
 }
 
-void takeFileErrorsAsErrors() { std::signal(SIGXFSZ, SIG_IGN); }
+void takeFileErrorsAsErrors()
+{
+    struct sigaction ignored {};
+    ignored.sa_handler = SIG_IGN;
+    sigaction(SIGXFSZ, &ignored, nullptr);
+}
 
 } // namespace corvanta

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <cstdio>
 #include <ctime>
 #include <map>
 #include <sys/stat.h>
@@ -71,9 +70,7 @@ std::string markOf(std::string_view hostName)
     std::uint64_t hash = 0xCBF29CE484222325U; // FNV-1a
     for (const char c : hostName)
         hash = (hash ^ static_cast<unsigned char>(c)) * 0x100000001B3U;
-    char mark[markLength + 1];
-    std::snprintf(mark, sizeof mark, "%016llx", static_cast<unsigned long long>(hash));
-    return mark;
+    return lowerCase(hexDigits(hash, markLength));
 }
 
 // Whether a name reads like an alias: "~" and a mark before the ending.

@@ -1,11 +1,11 @@
 #include "platform/profile.h"
 
 #include "platform/codepage.h"
+#include "platform/environment.h"
 #include "platform/host_files.h"
 #include "platform/text.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 #include <limits>
 #include <optional>
@@ -20,11 +20,10 @@ constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
 std::filesystem::path defaultFolder()
 {
-    const char *config = std::getenv("XDG_CONFIG_HOME");
-    if (config != nullptr && config[0] == '/')
-        return std::filesystem::path(config) / "corvanta";
-    const char *home = std::getenv("HOME");
-    return std::filesystem::path(home != nullptr ? home : "/") / ".config" / "corvanta";
+    const std::filesystem::path config = environmentValue("XDG_CONFIG_HOME");
+    if (config.is_absolute())
+        return config / "corvanta";
+    return std::filesystem::path("/") / environmentValue("HOME") / ".config" / "corvanta";
 }
 
 std::filesystem::path &profileFolder()

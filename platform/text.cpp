@@ -130,4 +130,12 @@ double leadingNumber(std::string_view text)
     return negative ? 0 - value : value;
 }
 
+std::string hexDigits(std::uint64_t value, std::size_t digits)
+{
+    std::string text(digits, '0');
+    for (std::size_t i = digits; i-- > 0; value >>= 4)
+        text[i] = "0123456789ABCDEF"[value & 0xF];
+    return text;
+}
+
 } // namespace corvanta

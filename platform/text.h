@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -36,5 +37,8 @@ std::string withTrailingBackslash(std::string_view directory);
 // The leading decimal number of a text (blanks skipped; "12.5px" gives 12.5); 0 when there is none.
 // Reads as the decimal text form of the system does: no locale, no hexadecimal, no "inf" or "nan".
 double leadingNumber(std::string_view text);
+
+// The last so many hexadecimal digits of a value, in upper case, with leading zeros.
+std::string hexDigits(std::uint64_t value, std::size_t digits);
 
 } // namespace corvanta

@@ -1,8 +1,8 @@
 #include "preview/address_file.h"
 
 #include "converter/text.h"
+#include "platform/environment.h"
 
-#include <cstdlib>
 #include <fcntl.h>
 #include <string_view>
 #include <system_error>
@@ -29,9 +29,8 @@ bool writeAll(int descriptor, std::string_view text)
 int makePrivateFile(fs::path &file)
 {
     std::error_code none;
-    const char *own = std::getenv("XDG_RUNTIME_DIR");
-    std::string name = (own && fs::path(own).is_absolute() ? fs::path(own) : fs::temp_directory_path(none)) /
-                       "corvanta-preview-XXXXXX.html";
+    const fs::path own = environmentValue("XDG_RUNTIME_DIR");
+    std::string name = (own.is_absolute() ? own : fs::temp_directory_path(none)) / "corvanta-preview-XXXXXX.html";
     const int descriptor = mkostemps(name.data(), 5, O_CLOEXEC); // made with mode 0600
     if (descriptor >= 0)
         file = name;

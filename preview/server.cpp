@@ -234,7 +234,7 @@ PreviewServer::PreviewServer(std::string token, ServerHandlers handlers) : state
     });
     server.Post(".*", [s = state.get()](const httplib::Request &request, httplib::Response &response,
                                         const httplib::ContentReader &reader) { s->post(request, response, reader); });
-    server.set_exception_handler([](const httplib::Request &, httplib::Response &response, std::exception_ptr) {
+    server.set_exception_handler([](const httplib::Request &, httplib::Response &response, const std::exception_ptr &) {
         refuse(response, 500, "The preview failed at this.\n");
     });
 }

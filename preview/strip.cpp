@@ -1,9 +1,11 @@
 #include "preview/strip.h"
 
 #include "converter/text.h"
+#include "platform/text.h"
 
 #include <algorithm>
-#include <cstdio>
+#include <charconv>
+#include <iterator>
 
 namespace corvanta {
 
@@ -74,8 +76,8 @@ std::string shortened(const std::string &utf8)
 std::string milliseconds(double value)
 {
     char text[32];
-    std::snprintf(text, sizeof text, "%.1f ms", value);
-    return text;
+    const auto end = std::to_chars(text, std::end(text), value, std::chars_format::fixed, 1).ptr;
+    return std::string(text, end) + " ms";
 }
 
 std::string outcome(const JournalEntry &e)
@@ -166,11 +168,8 @@ std::string messages(const Strip &strip)
 std::string percentEncoded(const std::string &utf8)
 {
     std::string text;
-    for (const char c : utf8) {
-        char code[4];
-        std::snprintf(code, sizeof code, "%%%02X", static_cast<unsigned>(static_cast<unsigned char>(c)));
-        text += code;
-    }
+    for (const char c : utf8)
+        text += '%' + hexDigits(static_cast<unsigned char>(c), 2);
     return text;
 }
 

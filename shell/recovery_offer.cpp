@@ -15,9 +15,9 @@ std::string timeOf(const LostPage &lost)
     const std::time_t seconds = lost.time;
     std::tm local{};
     char text[32] = "";
-    if (localtime_r(&seconds, &local))
-        std::strftime(text, sizeof text, "%Y-%m-%d %H:%M:%S", &local);
-    return text;
+    const bool told =
+        localtime_r(&seconds, &local) && std::strftime(text, sizeof text, "%Y-%m-%d %H:%M:%S", &local) > 0;
+    return told ? text : "an unknown time";
 }
 
 // This editor holds one page; the others' are not lost.

@@ -40,8 +40,8 @@ ActionTarget workingActionTarget()
     return {[] { return workingAction(); }, [](std::string text) { workingAction() = std::move(text); }, storedAction};
 }
 
-ActionControls addActionControls(Fields &fields, const QString &label, ActionTarget target,
-                                 std::function<void()> afterEdit)
+ActionControls addActionControls(Fields &fields, const QString &label, const ActionTarget &target,
+                                 const std::function<void()> &afterEdit)
 {
     ActionControls controls;
     controls.actlist = addComboRow(fields, "actlist", label);

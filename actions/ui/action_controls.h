@@ -27,8 +27,9 @@ struct ActionControls {
 
 // Adds the controls as a row. Choosing a kind and editing the parameters go to the target; afterEdit runs when an
 // action dialog has closed.
-ActionControls addActionControls(Fields &fields, const QString &label, ActionTarget target = workingActionTarget(),
-                                 std::function<void()> afterEdit = {});
+ActionControls addActionControls(Fields &fields, const QString &label,
+                                 const ActionTarget &target = workingActionTarget(),
+                                 const std::function<void()> &afterEdit = {});
 
 // Fills the kind choice, selects the kind of a code and enables actbut when it has a dialog.
 void FillActionChoice(const ActionControls &controls, std::int16_t code);

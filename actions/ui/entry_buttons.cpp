@@ -78,7 +78,8 @@ private:
 
 } // namespace
 
-void addEntryCommands(QBoxLayout &layout, const char *name, const Commands &commands, QListWidget &list, Edit edit)
+void addEntryCommands(QBoxLayout &layout, const char *name, const Commands &commands, QListWidget &list,
+                      const Edit &edit)
 {
     std::vector<std::string> names;
     for (std::size_t i = 0; i < commands.size(); ++i)

@@ -28,7 +28,7 @@ template <class Entry> struct EntryList {
 // edit. Those that need a selection are enabled while there is one. A double click on an entry edits it too, and so do
 // keys in the list: F2 edits, Insert and Delete do what their buttons do, Alt+Up and Alt+Down move the entry.
 void addEntryCommands(QBoxLayout &layout, const char *name, const std::vector<EntryCommand> &commands,
-                      QListWidget &list, std::function<void(EntryCommand, int)> edit);
+                      QListWidget &list, const std::function<void(EntryCommand, int)> &edit);
 
 // Shows texts in a list and selects a row, or none for -1.
 void showLines(QListWidget &list, const std::vector<std::string> &texts, int selected);

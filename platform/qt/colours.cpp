@@ -52,7 +52,7 @@ QColor toQColor(std::int32_t colour)
     const std::size_t index = value & 0xFFFFFFU;
     if (value >> 24 == 0x80 && index < systemColours.size())
         return QGuiApplication::palette().color(systemColours[index].group, systemColours[index].role);
-    return QColor(value & 0xFF, value >> 8 & 0xFF, value >> 16 & 0xFF);
+    return QColor(colour & 0xFF, colour >> 8 & 0xFF, colour >> 16 & 0xFF);
 }
 
 std::int32_t fromQColor(const QColor &colour)

@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <QSize>
 #include <functional>
 #include <initializer_list>
 #include <string>

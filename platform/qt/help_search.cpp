@@ -57,6 +57,7 @@ std::vector<HelpHit> HelpSearch::find(const QString &words)
             found.emplace_back(places, &page);
     std::ranges::stable_sort(found, std::ranges::greater(), &std::pair<int, const Page *>::first);
     std::vector<HelpHit> hits;
+    hits.reserve(found.size());
     for (const auto &[places, page] : found)
         hits.push_back(page->hit);
     return hits;

@@ -10,7 +10,7 @@ namespace corvanta {
 
 namespace {
 
-constexpr std::uintmax_t mostFileBytes = 64 * 1024 * 1024;
+constexpr std::uintmax_t mostFileBytes = 64 << 20;
 constexpr int mostImageMegabytes = 128;
 
 PicturePtr loadPicture(const std::string &drivePath)

@@ -6,8 +6,6 @@
 #include <QPointer>
 #include <QWindow>
 
-#include <ranges>
-
 namespace corvanta {
 
 namespace {
@@ -65,14 +63,15 @@ std::function<std::vector<QWidget *>()> &switchableWindows()
 
 QWidget *switchableInFront()
 {
+    QWidget *front = nullptr;
     if (switchableWindows())
-        for (QWidget *window : switchableWindows()() | std::views::reverse)
+        for (QWidget *window : switchableWindows()())
             if (window && window->isVisible())
-                return window;
-    return nullptr;
+                front = window; // the last
+    return front;
 }
 
-void showSwitchingOff(QDialog *dialog, std::function<void()> closed)
+void showSwitchingOff(QDialog *dialog, const std::function<void()> &closed)
 {
     std::vector<QPointer<QWidget>> switchedOff;
     if (switchableWindows())

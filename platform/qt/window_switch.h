@@ -16,7 +16,7 @@ QWidget *switchableInFront();
 
 // Shows a dialog that is not modal, the switchable windows disabled until it is closed. Whichever of them is clicked,
 // the dialog comes to the front. It deletes itself; then closed runs.
-void showSwitchingOff(QDialog *dialog, std::function<void()> closed = {});
+void showSwitchingOff(QDialog *dialog, const std::function<void()> &closed = {});
 
 // Keeps a dialog in front of the active window; without one, of the switchable one in front. CentreDialog does it for
 // every dialog without a parent.

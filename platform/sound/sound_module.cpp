@@ -21,7 +21,7 @@ namespace corvanta {
 namespace {
 
 constexpr std::size_t mostWaiting = 16;
-constexpr std::uintmax_t mostEffectBytes = 1024 * 1024; // longer files are streamed
+constexpr std::uintmax_t mostEffectBytes = 1 << 20; // longer files are streamed
 constexpr int channelCount = 16;
 
 struct Command {
@@ -50,6 +50,7 @@ struct Player {
     std::vector<Mix_Chunk *> effects = std::vector<Mix_Chunk *>(channelCount); // by channel
 };
 
+// NOLINTNEXTLINE(cert-dcl50-cpp): as the library calls it
 void ignoreAlsaMessage(const char *, int, const char *, int, const char *, ...) {}
 void ignoreMessage(int, const char *, void *) {}
 void ignoreJackMessage(const char *) {}
