@@ -13,7 +13,7 @@ wait_until test -s "$work/port"
 unset PGHOST PGPORT PGUSER PGPASSWORD PGCLIENTENCODING
 mute_port=$(cat "$work/port")
 export ODBCSYSINI=$work ODBCINI=$work/user.ini
-printf '[PG]\nDriver=psqlodbcw.so\n[MY]\nDriver=libmaodbc.so\n' >"$work/odbcinst.ini"
+printf '[PG]\nDriver=psqlodbcw.so\n[MY]\nDriver=libmaodbc.so\n[LITE]\nDriver=libsqlite3odbc.so\n' >"$work/odbcinst.ini"
 : >"$work/odbc.ini"
 cat >"$work/user.ini" <<INI
 [a-mute]
@@ -33,7 +33,17 @@ Port=$port
 Database=shop
 Username=clerk
 Password=$password
+[d-large]
+Driver=LITE
+Database=$work/large.db
 INI
+python3 - "$work/large.db" <<'PYTHON'
+import sqlite3, sys
+with sqlite3.connect(sys.argv[1]) as db:
+    for table in range(2000):
+        columns = 500 if table == 0 else 3
+        db.execute(f"create table t{table:04} ({', '.join(f'column{i} varchar(40)' for i in range(columns))})")
+PYTHON
 printf 'OdbcCallTimeout= 6\nOdbcLoginTimeout= 6\n' >>"$work/config/corvanta/CORVANTA.INI"
 cp samples/*.ods samples/*.bmp samples/*.wav "$work/"
 
@@ -86,6 +96,7 @@ tables_shown() { [ "$(lines_of_list 168)" -gt 100 ]; }
 columns_shown() { [ "$(lines_of_list 308)" -gt 100 ]; }
 no_columns() { ! columns_shown; }
 
+export CORVANTA_PAUSES=50
 start_editor Product "$work/record.ods"
 for source in a-mute b-mute; do
   echo "$source: log-in is given up, and the canvas works meanwhile"
@@ -128,7 +139,23 @@ click_odbc 290 51 # Refresh
 sleep 0.5
 columns_shown || fail "Refresh lost the columns"
 
+echo "2,000 tables, 500 columns, and no pause of the windows above 50 milliseconds"
+choose d-large
+wait_until tables_shown
+click_odbc 123 145 # the filter
+type_text t0
+click_odbc 123 175
+wait_until columns_shown
+for _ in 1 2 3; do keys Down Down Down Up; done
+xdotool key --delay 20 Page_Down Page_Down End Home
+
+click_odbc 123 145
+keys ctrl+a Delete
+if grep paused "$work/editor.log"; then fail "The windows stood still"; fi
+
 echo "The end waits for no driver"
+choose c-shop
+wait_until tables_shown
 kill -STOP $(server_processes)
 click_odbc 123 175
 sleep 0.3
