@@ -55,6 +55,7 @@ int runEditor(int argc, char **argv)
     watchForMissingDisplay();
     QApplication application(argc, argv);
     displayFound();
+    watchFirstPaint(2);
     QApplication::setApplicationName("corvanta");
     QApplication::setApplicationVersion(CORVANTA_VERSION);
     QApplication::setDesktopFileName("corvanta");

@@ -2,9 +2,12 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QEvent>
 #include <QTimer>
+#include <QWidget>
 
 #include <cstdio>
+#include <utility>
 
 namespace corvanta {
 
@@ -32,12 +35,39 @@ private:
     int limit;
 };
 
+class PaintWatch : public QObject {
+public:
+    PaintWatch(QObject *parent, int windows) : QObject(parent), missing(windows) { parent->installEventFilter(this); }
+
+    bool eventFilter(QObject *receiver, QEvent *event) override
+    {
+        const auto *widget = event->type() == QEvent::Paint ? qobject_cast<QWidget *>(receiver) : nullptr;
+        if (widget && widget->isWindow() && std::exchange(last, widget) != widget && --missing == 0) {
+            QTimer::singleShot(0, [] { std::fputs("painted\n", stderr); });
+            deleteLater();
+        }
+        return false;
+    }
+
+private:
+    const QWidget *last = nullptr;
+    int missing;
+};
+
+bool watching() { return qEnvironmentVariableIntValue("CORVANTA_PAUSES") > 0; }
+
 } // namespace
+
+void watchFirstPaint(int windows)
+{
+    if (watching())
+        new PaintWatch(qApp, windows);
+}
 
 void watchPauses()
 {
-    if (const int limit = qEnvironmentVariableIntValue("CORVANTA_PAUSES"); limit > 0)
-        new PauseWatch(qApp, limit);
+    if (watching())
+        new PauseWatch(qApp, qEnvironmentVariableIntValue("CORVANTA_PAUSES"));
 }
 
 } // namespace corvanta

@@ -6,4 +6,8 @@ namespace corvanta {
 // milliseconds that CORVANTA_PAUSES names; nothing without it. For tests and for hunting.
 void watchPauses();
 
+// Tells "painted" on standard error as soon as so many windows have been painted, when CORVANTA_PAUSES is set. Called
+// once there is an application and no window yet.
+void watchFirstPaint(int windows);
+
 } // namespace corvanta
