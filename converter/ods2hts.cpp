@@ -33,10 +33,10 @@ static std::int16_t convertedWith(const char *path, std::int32_t (*codePage)(std
         lastFailure = failureOf(path, codePage(asked));
         return static_cast<std::int16_t>(lastFailure.empty());
     } catch (const std::exception &) {
-        return lastFailure.assign("out of memory"), 0; // fits without another allocation
+        lastFailure.assign("out of memory"); // fits without another allocation
     } catch (...) {
-        return 0;
     }
+    return 0;
 }
 
 extern "C" std::int16_t ConvertOdsHts(const char *path)
