@@ -22,9 +22,15 @@ public:
         if (!std::isfinite(v))
             v = 0;
     }
-    void text(const char *, std::string &v) { v = takeString(in); }
-    void action(const char *, std::string &v) { v = takeString(in); }
-    void optionalText(const char *, std::string &v) { v = takeString(in); }
+    void text(const char *, std::string &v)
+    {
+        if (const std::string_view taken = takeString(in); taken.empty())
+            v.clear(); // as most texts are
+        else
+            v = taken;
+    }
+    void action(const char *name, std::string &v) { text(name, v); }
+    void optionalText(const char *name, std::string &v) { text(name, v); }
     template <class Body> void group(const char *, Body body) { body(*this); }
     template <class T, class Each> void counted(const char *, std::vector<T> &entries, std::size_t limit, Each each)
     {

@@ -1,5 +1,7 @@
 #include "document/encoding.h"
 
+#include <algorithm>
+
 namespace corvanta {
 
 namespace {
@@ -78,6 +80,15 @@ std::string encodeString(std::string_view text)
     std::string bytes;
     appendString(bytes, text);
     return bytes;
+}
+
+std::uint32_t takeRest(std::string_view &text)
+{
+    std::uint32_t value = 0;
+    for (std::size_t i = 0; i < text.size(); ++i)
+        value |= std::uint32_t{static_cast<unsigned char>(text[i])} << (8 * i);
+    text = {};
+    return value;
 }
 
 } // namespace corvanta

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <bit>
 #include <cstdint>
 #include <string>
@@ -28,13 +27,16 @@ std::string encodeString(std::string_view text);
 // Decoders take what they read off the front of the text. Missing bytes read as 0 and missing
 // characters as none. A negative string length ends the text: the string and the rest are empty.
 // Inline: they are called once for every value of a page.
+std::uint32_t takeRest(std::string_view &text); // fewer bytes than a value has
+
 template <std::size_t Bytes> std::uint32_t takeLittleEndian(std::string_view &text)
 {
-    const std::size_t present = std::min(Bytes, text.size());
+    if (text.size() < Bytes)
+        return takeRest(text);
     std::uint32_t value = 0;
-    for (std::size_t i = 0; i < present; ++i)
-        value |= static_cast<std::uint32_t>(static_cast<unsigned char>(text[i])) << (8 * i);
-    text.remove_prefix(present);
+    for (std::size_t i = 0; i < Bytes; ++i)
+        value |= std::uint32_t{static_cast<unsigned char>(text[i])} << (8 * i);
+    text.remove_prefix(Bytes);
     return value;
 }
 
