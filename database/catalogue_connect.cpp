@@ -108,7 +108,8 @@ Source sourceNamed(void *environment, const std::string &dsn)
         std::find_if(names.begin(), names.end(), [&](const ListedName &name) { return name.name == dsn; });
     Source source{found == names.end() ? toUtf8(dsn) : all[static_cast<std::size_t>(found - names.begin())], {}, {}};
     source.driver = setting(source.spelling, "Driver", "odbc.ini");
-    source.library = setting(source.driver, "Driver", "odbcinst.ini");
+    if (!source.driver.empty()) // without a section the driver manager answers with the names of all
+        source.library = setting(source.driver, "Driver", "odbcinst.ini");
     if (source.library.empty())
         source.library = source.driver;
     return source;

@@ -179,10 +179,15 @@ private:
     std::thread watching;
 };
 
-void execute(SQLHSTMT handle, const SqlStatement &statement, Units units, const SqlLimits &limits, SqlResult &result)
+void limitTime(SQLHSTMT handle, const SqlLimits &limits)
 {
     SQLSetStmtAttr(handle, SQL_ATTR_QUERY_TIMEOUT,
                    reinterpret_cast<SQLPOINTER>(static_cast<SQLULEN>(limits.time.count())), 0);
+}
+
+void execute(SQLHSTMT handle, const SqlStatement &statement, Units units, const SqlLimits &limits, SqlResult &result)
+{
+    limitTime(handle, limits);
     const Watchdog watchdog(handle, limits.time);
     std::vector<Bound> bound(statement.parameters.size());
     for (std::size_t i = 0; i < bound.size(); ++i)
@@ -288,6 +293,26 @@ void beginUse(void *connection, SqlUse use)
              {"SET SESSION CHARACTERISTICS AS TRANSACTION READ ONLY", "SET SESSION TRANSACTION READ ONLY"})
             run(connection, {words, {}}, {});
     SQLSetConnectAttr(connection, SQL_ATTR_AUTOCOMMIT, reinterpret_cast<SQLPOINTER>(SQL_AUTOCOMMIT_OFF), 0);
+}
+
+SqlResult prepareStatement(void *connection, const SqlStatement &statement, const SqlLimits &limits)
+{
+    SqlResult result;
+    const OdbcHandle own = newStatement(connection);
+    if (!own) {
+        takeDiagnosis(SQL_HANDLE_DBC, connection, result);
+        return result;
+    }
+    limitTime(own.get(), limits);
+    const Watchdog watchdog(own.get(), limits.time);
+    const std::u16string text = utf16FromUtf8(statement.text);
+    SQLSMALLINT count = 0; // some drivers read the statement when they are asked for it
+    if (SQL_SUCCEEDED(SQLPrepareW(own.get(), odbcText(text), SQL_NTS)) &&
+        SQL_SUCCEEDED(SQLNumResultCols(own.get(), &count)))
+        result.columns = describe(own.get());
+    else
+        takeDiagnosis(SQL_HANDLE_STMT, own.get(), result);
+    return result;
 }
 
 SqlResult readRows(void *connection, const SqlStatement &statement, const SqlLimits &limits)

@@ -64,6 +64,9 @@ enum class SqlUse { Reading, Writing };
 // Sets a connection up; without this its statements commit themselves.
 void beginUse(void *connection, SqlUse use);
 
+// Lets the driver read a statement without running it: the columns that it would give, or why it is refused.
+SqlResult prepareStatement(void *connection, const SqlStatement &statement, const SqlLimits &limits = {});
+
 // Runs a statement and gives its rows; changes are undone.
 SqlResult readRows(void *connection, const SqlStatement &statement, const SqlLimits &limits = {});
 

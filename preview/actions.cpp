@@ -280,7 +280,7 @@ private:
             fail("The page names no table.");
             return std::nullopt;
         }
-        SqlResult described = readNoted(parts, sourceOf(p), describingStatement(p), true);
+        SqlResult described = readNoted(parts, sourceOf(p), describingStatement(recordTable(p)), true);
         stopped = !described.error.empty();
         return stopped ? std::nullopt : std::optional(std::move(described.columns));
     }

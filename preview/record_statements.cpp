@@ -12,12 +12,6 @@ namespace {
 
 const ObjectRecord &objectAt(const Page &p, std::int16_t index) { return p.objects[static_cast<std::size_t>(index)]; }
 
-std::string tablePart(std::string_view datacol)
-{
-    const std::size_t dot = datacol.rfind('.');
-    return dot == std::string_view::npos ? std::string() : std::string(datacol.substr(0, dot));
-}
-
 bool isPlainName(std::string_view name)
 {
     return !name.empty() && !(name.front() >= '0' && name.front() <= '9') &&
@@ -77,7 +71,7 @@ std::string quotedTable(const std::string &table)
 
 bool isOfTable(const Page &p, const std::string &datacol)
 {
-    const std::string named = tablePart(datacol);
+    const std::string named = tableName(datacol);
     return !columnName(datacol).empty() && (named.empty() || sameText(named, recordTable(p)));
 }
 
@@ -219,8 +213,14 @@ std::string recordTable(const Page &p)
 {
     std::string table = trimmed(connectPart(p, 3));
     for (std::int16_t i = 0; table.empty() && i < objectCount(p); ++i)
-        table = tablePart(objectAt(p, i).datacol);
+        table = tableName(objectAt(p, i).datacol);
     return table;
+}
+
+std::string tableName(std::string_view datacol)
+{
+    const std::size_t dot = datacol.rfind('.');
+    return dot == std::string_view::npos ? std::string() : std::string(datacol.substr(0, dot));
 }
 
 std::string columnName(std::string_view datacol)
@@ -235,9 +235,9 @@ int columnPlace(const std::vector<SqlColumn> &columns, std::string_view name)
     return found == columns.end() ? -1 : static_cast<int>(found - columns.begin());
 }
 
-SqlStatement describingStatement(const Page &p)
+SqlStatement describingStatement(const std::string &table)
 {
-    return {"Select * From " + quotedTable(recordTable(p)) + " Where 1 = 0", {}};
+    return {"Select * From " + quotedTable(table) + " Where 1 = 0", {}};
 }
 
 FilledStatement updateStatement(const Page &p, const ShownRecord &record, const ObjectValues &values)

@@ -13,14 +13,17 @@ namespace corvanta {
 // The page's default table, else the table of its first bound object; bytes of the code page.
 std::string recordTable(const Page &p);
 
+// The table that a data column names; empty when it names none.
+std::string tableName(std::string_view datacol);
+
 // The column that an object is bound to, without its table; bytes of the code page.
 std::string columnName(std::string_view datacol);
 
 // The place of a column (bytes of the code page) in a result; -1 when it is not there.
 int columnPlace(const std::vector<SqlColumn> &columns, std::string_view name);
 
-// All columns of the page's table and none of its rows: what parameters are bound as.
-SqlStatement describingStatement(const Page &p);
+// All columns of a table (bytes of the code page) and none of its rows: what parameters are bound as.
+SqlStatement describingStatement(const std::string &table);
 
 // What a record is compared with: the columns of its table, and the row that the page shows.
 struct ShownRecord {

@@ -5,9 +5,12 @@
 #include "document/reading_failure.h"
 #include "platform/host_files.h"
 #include "platform/text.h"
+#include "tools/odspage_check_database.h"
 
 #include <CLI/Validators.hpp>
 
+#include <algorithm>
+#include <iterator>
 #include <memory>
 
 namespace corvanta {
@@ -18,13 +21,14 @@ namespace fs = std::filesystem;
 
 struct CheckArguments {
     std::vector<std::string> paths, only, ignored;
-    bool json = false, sarif = false, sizes = false, fix = false;
+    bool json = false, sarif = false, sizes = false, fix = false, database = false;
 };
 
 struct Checking {
     ToolRun &run;
     const CheckArguments &arguments;
     CheckSettings settings;
+    DatabaseCheck databases;
     std::vector<FileFinding> findings;
 
     void add(const std::string &file, Finding finding, std::string title = {})
@@ -63,7 +67,10 @@ void fix(Checking &checking, const std::string &file, const std::string &bytes, 
 void checkLoaded(Checking &checking, const std::string &file, const Page &p, const CheckFolder &folder,
                  const RuleChoice &choice)
 {
-    for (Finding &finding : checkPage({p, &folder}, [&](std::string_view rule) { return choice.leavesOut(rule); })) {
+    std::vector<Finding> found = checkPage({p, &folder}, [&](std::string_view rule) { return choice.leavesOut(rule); });
+    if (checking.arguments.database && !choice.leavesOut(databaseRule))
+        std::ranges::move(checking.databases.check(file, p), std::back_inserter(found));
+    for (Finding &finding : found) {
         const std::int16_t object = finding.object;
         checking.add(file, std::move(finding), object == noObject ? std::string() : objectTitle(p, object));
     }
@@ -117,7 +124,7 @@ int check(ToolRun &run, const CheckArguments &arguments)
 {
     const RuleChoice choice{{arguments.only.begin(), arguments.only.end()},
                             {arguments.ignored.begin(), arguments.ignored.end()}};
-    Checking checking{run, arguments, CheckSettings(run, choice), {}};
+    Checking checking{run, arguments, CheckSettings(run, choice), DatabaseCheck(run), {}};
     for (const std::string &path : arguments.paths) {
         std::error_code error;
         if (fs::is_directory(path, error))
@@ -138,7 +145,7 @@ int check(ToolRun &run, const CheckArguments &arguments)
 
 std::vector<std::string> ruleNames()
 {
-    std::vector<std::string> names{damagedRule, unreachableRule};
+    std::vector<std::string> names{damagedRule, unreachableRule, databaseRule};
     for (const CheckRule &rule : checkRules())
         names.emplace_back(rule.name);
     return names;
@@ -161,6 +168,9 @@ void addCheckCommand(CLI::App &app, ToolRun &run)
     command->add_flag("--size", arguments->sizes, "print the bytes that each object takes")
         ->excludes(json)
         ->excludes(sarif);
+    command->add_flag(
+        "--database", arguments->database,
+        "ask the pages' data sources, too, whether they take the statements and have the tables and columns");
     command->add_flag("--fix", arguments->fix, "mend what is safe: the case of names, and the tab order");
     command->callback([&run, arguments] { run.exitCode = check(run, *arguments); });
 }

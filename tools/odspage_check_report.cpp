@@ -32,7 +32,8 @@ Json sarifRules()
 {
     const std::map<std::string, std::string> others{
         {damagedRule, "A file cannot be read, or saving it would change it"},
-        {unreachableRule, "No action leads to a page"}};
+        {unreachableRule, "No action leads to a page"},
+        {databaseRule, "A data source refuses a statement, or has no such table or column"}};
     Json rules = Json::array();
     for (const auto &[name, summary] : others)
         rules.push_back({{"id", name}, {"shortDescription", {{"text", summary}}}});

@@ -96,6 +96,12 @@ tables_shown() { [ "$(lines_of_list 168)" -gt 100 ]; }
 columns_shown() { [ "$(lines_of_list 308)" -gt 100 ]; }
 no_columns() { ! columns_shown; }
 
+# A tool gives up, too, while the editor is tested.
+"$programs/odspage" dump samples/record.ods | sed 's/"dbconnect": "[^"]*"/"dbconnect": "a-mute\\tme\\tsecret\\tCustomers"/' >"$work/mute.json"
+"$programs/odspage" build "$work/mute.json" "$work/mute.ods"
+timeout 60 "$programs/odspage" check --database --rule database "$work/mute.ods" >"$work/check.out" 2>"$work/check.err" &
+check_pid=$!
+
 export CORVANTA_PAUSES=50
 start_editor Product "$work/record.ods"
 for source in a-mute b-mute; do
@@ -113,6 +119,11 @@ for source in a-mute b-mute; do
   sleep 7
   no_message || fail "A cancelled log-in told something"
 done
+
+code=0
+wait $check_pid || code=$?
+[ $code = 1 ] && grep -q 'no answer of data source "a-mute"' "$work/check.err" && ! grep -q secret "$work/check.err" ||
+  fail "The check of a mute source: $code $(cat "$work/check.err")"
 
 echo "A stopped server: the listing is given up, and the next click connects again"
 choose c-shop

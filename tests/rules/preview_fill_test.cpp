@@ -147,7 +147,7 @@ TEST_F(PreviewFill, RecordsAreChangedByTheirUpdateKeys)
                                             {"`a-b`", "`a-b`"},
                                             {"\"x\";y\"", "\"\"\"x\"\";y\"\"\""}}) {
         p.dbconnect = "Shop\t\t\t" + table;
-        EXPECT_EQ(describingStatement(p).text, "Select * From " + quoted + " Where 1 = 0");
+        EXPECT_EQ(describingStatement(recordTable(p)).text, "Select * From " + quoted + " Where 1 = 0");
     }
 }
 
