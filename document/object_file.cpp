@@ -78,11 +78,14 @@ std::string chosenPath(FileDialog::Kind kind)
     return asking().fileDialog(objectDialog(kind)).value_or(std::string());
 }
 
-std::int16_t completeAppended(std::int16_t index, const std::string &act)
+std::int16_t completeAppended(std::int16_t index, const std::string &act,
+                              const std::function<void(std::int16_t)> &place = {})
 {
     if (index == noObject)
         return index;
     LoadObjectFiles(index);
+    if (place)
+        place(index);
     pageEdited(act + " " + objectName(page().objects[static_cast<std::size_t>(index)].kind));
     return index;
 }
@@ -130,13 +133,16 @@ void saveObject()
 std::int16_t loadObject()
 {
     const std::string path = chosenPath(FileDialog::Kind::Open);
-    if (path.empty())
-        return noObject;
+    return path.empty() ? noObject : loadObjectFile(path);
+}
+
+std::int16_t loadObjectFile(const std::string &path, const std::function<void(std::int16_t)> &place)
+{
     const std::string text = readWholeFile(path, fileLimit);
     if (text.empty() || !agreesToLoad(path, text))
         return noObject;
     editing().curdir = withTrailingBackslash(directoryPart(path));
-    return completeAppended(appendObjectFile(page(), text), "Load");
+    return completeAppended(appendObjectFile(page(), text), "Load", place);
 }
 
 std::int16_t duplicateObject()

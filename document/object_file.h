@@ -2,6 +2,7 @@
 
 #include "document/page.h"
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -16,8 +17,10 @@ std::string objectFileFault(std::string_view text);
 std::int16_t appendObjectFile(Page &p, std::string_view text);
 
 void saveObject(); // asks for a file and writes the current object
-// Both give the index of the object that they append, or noObject.
-std::int16_t loadObject();      // asks for a file
+// All give the index of the object that they append, or noObject.
+std::int16_t loadObject(); // asks for a file
+// The same of a file (drive path); place gives the object its place before the act is complete.
+std::int16_t loadObjectFile(const std::string &path, const std::function<void(std::int16_t index)> &place = {});
 std::int16_t duplicateObject(); // a copy of the current object in the same place
 
 } // namespace corvanta

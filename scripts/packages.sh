@@ -3,7 +3,7 @@
 BUILD_PACKAGES=(
   g++ cmake ninja-build ccache pkg-config
   qt6-base-dev qt6-base-dev-tools qt6-tools-dev qt6-documentation-tools libqt6sql6-sqlite
-  libgl-dev libsdl2-mixer-dev unixodbc-dev
+  libgl-dev libglib2.0-dev libsdl2-mixer-dev unixodbc-dev
   nlohmann-json3-dev libcli11-dev libcpp-httplib-dev libtomlplusplus-dev libgtest-dev libbenchmark-dev
   python3
 )

@@ -175,7 +175,8 @@ bool commandEnabled(Command command)
     case Command::SelectAll: return state.list;
     case Command::TabOrder: return hasTabNumbers();
     case Command::SharedProperties: return rooms.openSharedProperties && chosenObjects().size() > 1;
-    case Command::AddKind: return true;
+    case Command::AddKind:
+    case Command::RecentPages: return true;
     case Command::CheckPage: return bool(rooms.checkPage);
     case Command::Preview: return bool(rooms.preview);
     }
@@ -216,6 +217,7 @@ void runCommand(Command command)
     case Command::None:
     case Command::Add:
     case Command::AddKind:
+    case Command::RecentPages:
     case Command::Align: break;
     case Command::New: startNewPage(); break;
     case Command::Open: chooseAndOpenPage(); break;

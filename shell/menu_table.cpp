@@ -78,6 +78,7 @@ constexpr MenuRow contextRows[] = {
     {"cbindings", "S&how Bindings", 0, Command::ShowBindings, ""},
     {"ccheck", "Chec&k Page", 0, Command::CheckPage, ""},
     {"cpreview", "Previe&w in Browser", 0, Command::Preview, ""},
+    {"crecent", "&Recent Pages", 0, Command::RecentPages, ""},
 };
 
 constexpr ToolbarRow toolbarRows[] = {

@@ -49,7 +49,8 @@ enum class Command {
     ShowBindings,
     CheckPage,
     Preview,
-    AddKind // one item per kind; runs at the pointer
+    AddKind,    // one item per kind; runs at the pointer
+    RecentPages // one item per page
 };
 
 // A menu item. Rows stand in the order of the menus, a submenu before its items.

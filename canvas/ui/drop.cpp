@@ -14,6 +14,12 @@ Rect droppedRect(const Rect &object, Point at, Size pageSize)
             std::max(0, std::min(at.y, pageSize.height - object.height)), object.width, object.height};
 }
 
+void placeObjectAt(std::int16_t index, Point at)
+{
+    const Rect place = droppedRect(rectOf(page().objects[static_cast<std::size_t>(index)]), at, sizeOf(page()));
+    setObjectGeometry(index, toPixels(place.top), toPixels(place.left), toPixels(place.height), toPixels(place.width));
+}
+
 std::int16_t addObjectAt(Kind kind, Point at)
 {
     const std::int16_t index = addObject(kind);
@@ -21,8 +27,7 @@ std::int16_t addObjectAt(Kind kind, Point at)
         return noObject;
     clearMultiSelection();
     selectObject(index);
-    const Rect place = droppedRect(rectOf(page().objects[static_cast<std::size_t>(index)]), at, sizeOf(page()));
-    setObjectGeometry(index, toPixels(place.top), toPixels(place.left), toPixels(place.height), toPixels(place.width));
+    placeObjectAt(index, at);
     showTrackers();
     return index;
 }

@@ -9,6 +9,7 @@
 #include "shell/clipboard.h"
 #include "shell/commands.h"
 #include "shell/ui/icons.h"
+#include "shell/ui/recent_pages.h"
 
 #include <QAction>
 #include <QKeySequence>
@@ -81,12 +82,14 @@ void CanvasMenu::addRow(const MenuRow &row)
     }
     const std::string caption = commandCaption(row.command);
     const QString text = caption.empty() ? QString::fromLatin1(row.caption) : toQString(caption);
-    if (row.command == Command::Align || row.command == Command::AddKind) {
+    if (row.command == Command::Align || row.command == Command::AddKind || row.command == Command::RecentPages) {
         QMenu *submenu = parent->addMenu(text);
         submenu->setObjectName(row.element);
         submenu->setEnabled(commandEnabled(row.command));
         if (row.command == Command::AddKind)
             addKinds(*submenu);
+        if (row.command == Command::RecentPages)
+            addRecentPages(*submenu);
         return;
     }
     QAction *action = parent->addAction(text, this, [this, command = row.command] { run(command); });

@@ -25,6 +25,7 @@
 #include "shell/recovery_offer.h"
 #include "shell/session.h"
 #include "shell/ui/canvas_menu.h"
+#include "shell/ui/file_drops.h"
 #include "shell/ui/help_key.h"
 #include "shell/ui/hpeabout.h"
 #include "shell/ui/hpsdir.h"
@@ -33,6 +34,7 @@
 #include "shell/ui/icons.h"
 #include "shell/ui/objlist.h"
 #include "shell/ui/places.h"
+#include "shell/ui/recent_pages.h"
 
 #include <QApplication>
 #include <QLocale>
@@ -67,6 +69,7 @@ EditorWindows::EditorWindows() : hpsedit(std::make_unique<Hpsedit>())
 {
     startHistory();
     addCommandKeys(*hpsedit);
+    takeFileDrops(*hpsedit, false);
     connectCommands();
     followSelection();
     watchFile();
@@ -88,13 +91,18 @@ void EditorWindows::start(const std::string &pageFile)
     startRecovery(recoveryFolder(),
                   [](Job job) { QTimer::singleShot(recoveryDelay, qApp, [job = std::move(job)] { job(); }); });
     startSession(pageFile);
-    QTimer::singleShot(0, hpsedit.get(), offerLostPages);
+    QTimer::singleShot(0, hpsedit.get(), [] {
+        startRecentPages();
+        offerLostPages();
+    });
 }
 
 void EditorWindows::end()
 {
-    if (std::exchange(sessionRuns, false))
-        endSession();
+    if (!std::exchange(sessionRuns, false))
+        return;
+    stopRecentPages();
+    endSession();
 }
 
 void EditorWindows::connectCommands()
@@ -211,6 +219,8 @@ void EditorWindows::loadCanvas()
     };
     commands.statusClicked = tellDamage;
     addCommandKeys(*editform);
+    takeFileDrops(*editform, false);
+    takeFileDrops(editform->pageArea(), true);
     commands.closeRequested = [this] { // after the canvas's own event: it does not outlive the session
         QTimer::singleShot(0, hpsedit.get(), [this] { hpsedit->close(); });
     };

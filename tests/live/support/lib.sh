@@ -6,7 +6,7 @@ source scripts/virtual-screen
 
 programs=$PWD/build/release/bin
 work=$(mktemp -d)
-export XDG_CONFIG_HOME=$work/config XDG_STATE_HOME=$work/state
+export XDG_CONFIG_HOME=$work/config XDG_STATE_HOME=$work/state XDG_DATA_HOME=$work/data
 # Without the mock toolbar the page begins at the top left of the canvas window.
 mkdir -p "$work/config/corvanta"
 printf '[Corvanta Page Editor]\nShowToolbar= 0\n' >"$work/config/corvanta/CORVANTA.INI"
