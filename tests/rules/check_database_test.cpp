@@ -4,7 +4,8 @@
 #include "tests/rules/odspage_files.h"
 #include "tests/support/database_sources.h"
 
-#include <regex>
+#include <functional>
+#include <sstream>
 
 namespace corvanta {
 
@@ -41,9 +42,16 @@ protected:
         const ToolResult result = odspage({"check", "--database", "--rule", "database", scratch.path("pages")});
         EXPECT_EQ(result.err, "");
         EXPECT_EQ(result.out.find(toUtf8(testsources::serverPassword)), std::string::npos);
-        const std::string text =
-            std::regex_replace(result.out, std::regex("(refused|no table \"\\w+\"): [^\n]+"), "$1");
-        return std::regex_replace(text, std::regex(scratch.path("pages/")), "");
+        std::istringstream lines(result.out);
+        std::string line, told;
+        while (std::getline(lines, line)) {
+            line.erase(0, scratch.path("pages/").size());
+            for (const std::string end : {"is refused", "no table \"Strangers\""})
+                if (const std::size_t at = line.find(end + ": "); at != std::string::npos)
+                    line.resize(at + end.size());
+            told += line + '\n';
+        }
+        return told;
     }
 
     const ScratchFolder scratch;
