@@ -42,8 +42,10 @@ void addFace(QBoxLayout &layout, FontControls &controls)
         addComboRow(face.fields, "fontsize",
                     "Si&ze:", {"8", "9", "10", "11", "12", "14", "16", "18", "20", "22", "24", "28", "36", "48", "72"});
     controls.size->setEditable(true);
-    for (QComboBox *combo : {controls.name, controls.size})
+    for (QComboBox *combo : {controls.name, controls.size}) {
+        combo->lineEdit()->setAccessibleName(combo->accessibleName());
         keepInCodePage(*combo->lineEdit());
+    }
 }
 
 void addStyles(QBoxLayout &layout, FontControls &controls)
@@ -99,6 +101,8 @@ void showSample(const FontControls &controls, const FontChoice &choice)
     const QColor colour = toQColor(choice.ForeColor);
     QPalette palette = controls.sample->palette();
     palette.setColor(QPalette::WindowText, colour);
+    palette.setColor(QPalette::Window, colour.lightness() < 160 ? Qt::white : Qt::black); // whatever the desktop's look
+    controls.sample->setAutoFillBackground(true);
     controls.sample->setPalette(palette);
     controls.sample->setFont(toQFont(choice));
     QPixmap swatch(32, 14);

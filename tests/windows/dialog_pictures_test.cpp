@@ -1,6 +1,18 @@
 #include "actions/action.h"
 #include "actions/ui/edit_action.h"
+#include "database/ui/odbcdbs.h"
+#include "database/ui/seldsn.h"
+#include "objects/ui/manyobj.h"
 #include "page/ui/pgprops.h"
+#include "platform/qt/font_dialog.h"
+#include "shell/commands.h"
+#include "shell/ui/checkpg.h"
+#include "shell/ui/hpeabout.h"
+#include "shell/ui/hpsdir.h"
+#include "shell/ui/hpsedit.h"
+#include "shell/ui/hpsinput.h"
+#include "shell/ui/icons.h"
+#include "shell/ui/objlist.h"
 #include "tests/windows/help_index.h"
 #include "tests/windows/objects_page.h"
 
@@ -11,6 +23,7 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <cmath>
 #include <map>
 #include <ranges>
 #include <set>
@@ -38,6 +51,46 @@ void expectReadable(const QWidget &dialog)
         EXPECT_TRUE(dialog.findChild<QWidget *>("scrolled") ||
                     w->window()->rect().contains(QRect(w->mapTo(w->window(), QPoint()), w->size())))
             << qPrintable(w->objectName());
+    }
+}
+
+double luminance(const QColor &colour)
+{
+    const auto part = [](double value) {
+        return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) + 0.0722 * part(colour.blueF());
+}
+
+double contrast(const QColor &a, const QColor &b)
+{
+    const double one = luminance(a), other = luminance(b);
+    return (std::max(one, other) + 0.05) / (std::min(one, other) + 0.05);
+}
+
+// Every text stands out from its ground; what is switched off, and hints, less than the rest. Every control has a role,
+// every button can be pressed by assistive technology, and the keyboard reaches all of them.
+void expectUsable(const QWidget &dialog)
+{
+    for (auto *w : dialog.findChildren<QWidget *>()) {
+        const QString name = dialog.objectName() + ' ' + w->objectName();
+        if (!w->isVisible() || w->objectName().startsWith("qt_"))
+            continue;
+        const double least = w->isEnabled() ? 4.5 : 1.5;
+        EXPECT_GE(contrast(w->palette().color(w->foregroundRole()), w->palette().color(w->backgroundRole())), least)
+            << qPrintable(name);
+        auto *access = QAccessible::queryAccessibleInterface(w);
+        ASSERT_NE(access, nullptr) << qPrintable(name);
+        EXPECT_NE(access->role(), QAccessible::NoRole) << qPrintable(name);
+        if (const auto *button = qobject_cast<QAbstractButton *>(w); button && button->isEnabled()) {
+            ASSERT_NE(access->actionInterface(), nullptr) << qPrintable(name);
+            const QStringList acts = access->actionInterface()->actionNames();
+            EXPECT_TRUE(acts.contains(QAccessibleActionInterface::pressAction()) ||
+                        acts.contains(QAccessibleActionInterface::toggleAction()))
+                << qPrintable(name);
+            // The arrow keys reach the other choices of a group.
+            EXPECT_TRUE((button->focusPolicy() & Qt::TabFocus) || button->autoExclusive()) << qPrintable(name);
+        }
     }
 }
 
@@ -89,29 +142,59 @@ void expectInHelpIndex(const QWidget &dialog)
     }
 }
 
-// Shows every dialog with some content at a font size; with CORVANTA_PICTURES, a folder, a picture of each goes there.
-class DialogPictures : public PropertyDialogs, public testing::WithParamInterface<int> {
+struct Look {
+    int fontSize; // points
+    bool dark;
+};
+
+QPalette darkPalette()
+{
+    QPalette dark(QColor(0x35, 0x35, 0x35), QColor(0x2b, 0x2b, 0x2b));
+    dark.setColor(QPalette::Base, QColor(0x1e, 0x1e, 0x1e));
+    return dark;
+}
+
+// Shows every dialog with some content in a look of the desktop; with CORVANTA_PICTURES, a folder, a picture of each
+// goes there.
+class DialogPictures : public PropertyDialogs, public testing::WithParamInterface<Look> {
 protected:
-    DialogPictures() : before(QApplication::font())
+    DialogPictures() : before(QApplication::font()), colours(QApplication::palette())
     {
         QFont font = before;
-        font.setPointSize(GetParam());
+        font.setPointSize(GetParam().fontSize);
         QApplication::setFont(font);
+        if (GetParam().dark)
+            QApplication::setPalette(darkPalette());
     }
-    ~DialogPictures() override { QApplication::setFont(before); }
+    ~DialogPictures() override
+    {
+        QApplication::setFont(before);
+        QApplication::setPalette(colours);
+        roomCommands() = {};
+        connection() = {};
+    }
 
     static void look(QWidget &dialog)
     {
+        lookAtWindow(dialog);
+        expectOneLook(dialog);
+    }
+    static void lookAtWindow(QWidget &dialog)
+    {
         QCoreApplication::processEvents();
         expectReadable(dialog);
-        expectOneLook(dialog);
+        expectUsable(dialog);
         expectInHelpIndex(dialog);
         const QByteArray folder = qgetenv("CORVANTA_PICTURES");
         if (!folder.isEmpty())
-            dialog.grab().save(QString("%1/%2-%3.png").arg(QString(folder), dialog.objectName()).arg(GetParam()));
+            dialog.grab().save(QString("%1/%2-%3%4.png")
+                                   .arg(folder, dialog.objectName())
+                                   .arg(GetParam().fontSize)
+                                   .arg(GetParam().dark ? "-dark" : ""));
     }
 
     QFont before;
+    QPalette colours;
 };
 
 TEST_P(DialogPictures, OfEveryKind)
@@ -153,7 +236,43 @@ TEST_P(DialogPictures, OfPageProperties)
     settle();
 }
 
-INSTANTIATE_TEST_SUITE_P(Sizes, DialogPictures, testing::Values(9, 16));
+TEST_P(DialogPictures, OfTheOtherWindows)
+{
+    openSample("query.ods");
+    connection().source = "Shop";
+    connection().tables = {"Customers", "Orders"};
+    connection().tableFacts = {{"Customers", "Customers", "", false}, {"Orders", "Orders", "", true}};
+    const auto modal = [](const std::function<void()> &open) {
+        ModalDriver driver;
+        driver.expect("", [](QWidget &window) {
+            lookAtWindow(window);
+            static_cast<QDialog &>(window).reject();
+        });
+        open();
+    };
+    modal([] { showInput("Name:\tRename\told"); });
+    modal(showDirectory);
+    modal(showAbout);
+    modal([] { askDataSource("Shop"); });
+    modal([] { showFontDialog({}, nullptr); });
+    modal([] { OpenSharedProperties({2, 4}); });
+    showObjectList();
+    lookAtWindow(*openObjectList());
+    openObjectList()->reject();
+    settle();
+    showPageCheck(nullptr);
+    lookAtWindow(*openDialog());
+    openDialog()->close();
+    settle();
+    Hpsedit main;
+    main.show();
+    lookAtWindow(main);
+    Odbcdbs odbc(main, kindIcon);
+    odbc.show();
+    lookAtWindow(odbc);
+}
+
+INSTANTIATE_TEST_SUITE_P(Looks, DialogPictures, testing::Values(Look{9, false}, Look{16, false}, Look{9, true}));
 
 } // namespace
 } // namespace corvanta

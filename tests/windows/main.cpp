@@ -26,7 +26,8 @@ int main(int argc, char **argv)
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     const QTemporaryDir state; // what tests leave is no author's
-    qputenv("XDG_STATE_HOME", state.path().toUtf8());
+    for (const char *folder : {"XDG_STATE_HOME", "XDG_DATA_HOME"})
+        qputenv(folder, state.path().toUtf8());
     corvanta::registerFontSubstitutions();
     corvanta::BuildActionKinds();
     corvanta::buildKindRegistry();
