@@ -98,7 +98,7 @@ void takeDroppedFile(const std::string &path, std::optional<Point> at)
     if (endsWith(path, ".ods"))
         return openAnotherPage(path);
     if (!endsWith(path, ".hdo") && !endsWith(path, ".odo"))
-        return showExclamation("\"" + fileNamePart(path) + "\" is neither a page (.ods) nor an object (.odo, .hdo).",
+        return showExclamation('"' + fileNamePart(path) + "\" is neither a page (.ods) nor an object (.odo, .hdo).",
                                title);
     cancelGesture();
     endTabOrder();
