@@ -1,6 +1,7 @@
 #include "canvas/running.h"
 
 #include "canvas/events.h"
+#include "document/events.h"
 #include "document/media.h"
 #include "document/objects.h"
 #include "platform/clock.h"
@@ -29,8 +30,10 @@ void showFrame(std::int16_t element, AnimationRun &run, std::int16_t position)
     run.frameStart = clockTenths();
     const std::string sound = frameAt(run).sound;
     runningEvents().showFrame(element, run.frames[static_cast<std::size_t>(position)]);
-    if (!sound.empty() && plainFileName(sound))
-        mciSendString("Play " + editing().curdir + sound);
+    if (sound.empty() || !plainFileName(sound) || mciSendString("Play " + editing().curdir + sound) == 0)
+        return;
+    if (!std::exchange(run.soundTold, true)) // and not again with each round
+        documentEvents().notice("The sound \"" + sound + "\" cannot be played.");
 }
 
 // Elapsed and due time are compared as 16-bit values.

@@ -28,6 +28,7 @@ struct AnimationRun {
     std::int16_t strictime = 0;
     std::int32_t animationStart = 0;
     std::int32_t plannedTime = 0; // durations of the frames already finished
+    bool soundTold = false;       // that a frame's sound cannot be played
 };
 
 struct RunningEvents {

@@ -28,6 +28,33 @@ void tell(const std::string &text, const char *title)
 
 void tellObjectChanged(std::int16_t index) { documentEvents().objectChanged(index); }
 
+void tellMissingBackground()
+{
+    tell("Image (" + page().bkgfile + ") does not exist in this location ." + changeDirectoryHint,
+         "Pagegotfile LOADIMG Error");
+}
+
+void tellMissingButtonPicture(const std::string &file)
+{
+    tell("Couldn't load image file \"" + file + "\" into button.  " + changeDirectoryHint, "LoadPicture Error");
+}
+
+void tellMissingFrame(const std::string &file, int position)
+{
+    tell("Couldn't load image file \"" + file + "\" into animation frame " + std::to_string(position) + ".  " +
+             changeDirectoryHint,
+         "LoadPicture Error");
+}
+
+// Calls for each frame of an animation with its position, from 1 on.
+void forFrames(std::int16_t index, const auto &visit)
+{
+    Page &p = page();
+    int position = 0;
+    for (const int number : frameNumbers(p, p.ctlindex.at(static_cast<std::size_t>(index))))
+        visit(p.frames[static_cast<std::size_t>(number)], ++position);
+}
+
 void loadObjectFile(std::int16_t index, Kind kind, const std::string &file)
 {
     switch (kind) {
@@ -84,8 +111,7 @@ void loadBackground()
     Page &p = page();
     p.background = loadPicture(p.bkgfile);
     if (!p.bkgfile.empty() && !p.background && pictureLoader())
-        tell("Image (" + p.bkgfile + ") does not exist in this location ." + changeDirectoryHint,
-             "Pagegotfile LOADIMG Error");
+        tellMissingBackground();
 }
 
 void playPageSound()
@@ -127,7 +153,7 @@ bool LoadButtonPicture(std::int16_t index, const std::string &file)
     Element &button = *elementOf(page(), index);
     button.picture = loadPicture(file);
     if (!file.empty() && !button.picture && pictureLoader())
-        tell("Couldn't load image file \"" + file + "\" into button.  " + changeDirectoryHint, "LoadPicture Error");
+        tellMissingButtonPicture(file);
     return file.empty() || button.picture;
 }
 
@@ -148,19 +174,13 @@ void LoadTextBoxFile(std::int16_t index, const std::string &file)
 
 void LoadAnimationFrames(std::int16_t index, const std::string &file)
 {
-    Page &p = page();
-    int position = 0;
-    for (const int number : frameNumbers(p, p.ctlindex.at(static_cast<std::size_t>(index)))) {
-        ++position;
-        Frame &frame = p.frames[static_cast<std::size_t>(number)];
+    forFrames(index, [&](Frame &frame, int position) {
         if (frame.image != file)
-            continue;
+            return;
         frame.picture = loadPicture(file);
         if (!file.empty() && !frame.picture && pictureLoader())
-            tell("Couldn't load image file \"" + file + "\" into animation frame " + std::to_string(position) + ".  " +
-                     changeDirectoryHint,
-                 "LoadPicture Error");
-    }
+            tellMissingFrame(file, position);
+    });
 }
 
 PicturePtr imagePicture(Page &p, std::int16_t index)
@@ -174,6 +194,37 @@ PicturePtr imagePicture(Page &p, std::int16_t index)
     if (state.path != path)
         state = {path, loadPicture(file)};
     return state.picture;
+}
+
+void dropUnreadablePicture(const Picture &picture)
+{
+    const CollectedMessages collected;
+    Page &p = page();
+    if (p.background.get() == &picture) {
+        p.background = nullptr;
+        tellMissingBackground();
+        documentEvents().pageChanged();
+    }
+    for (std::int16_t i = 0; i < objectCount(p); ++i) {
+        Element *element = elementOf(p, i);
+        const ObjectRecord &o = p.objects[static_cast<std::size_t>(i)];
+        bool changed = kindOf(o.kind) == Kind::Image;
+        if (element && element->picture.get() == &picture) {
+            element->picture = nullptr;
+            changed = true;
+            tellMissingButtonPicture(o.srcfile);
+        }
+        if (kindOf(o.kind) == Kind::Animation)
+            forFrames(i, [&](Frame &frame, int position) {
+                if (frame.picture.get() != &picture)
+                    return;
+                frame.picture = nullptr;
+                changed = true;
+                tellMissingFrame(frame.image, position);
+            });
+        if (changed)
+            tellObjectChanged(i);
+    }
 }
 
 } // namespace corvanta

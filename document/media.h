@@ -43,4 +43,8 @@ PicturePtr imagePicture(Page &p, std::int16_t index);
 void LoadTextBoxFile(std::int16_t index, const std::string &file);
 void LoadAnimationFrames(std::int16_t index, const std::string &file);
 
+// A picture that was loaded turns out to hold no pixels: it is taken from the page and its objects, and the user is
+// told as at loading.
+void dropUnreadablePicture(const Picture &picture);
+
 } // namespace corvanta

@@ -8,4 +8,10 @@ std::function<PicturePtr(const std::string &)> &pictureLoader()
     return loader;
 }
 
+PictureEvents &pictureEvents()
+{
+    static PictureEvents events;
+    return events;
+}
+
 } // namespace corvanta

@@ -36,7 +36,7 @@ using namespace corvanta;
 
 constexpr int failed = 1, wrongUsage = 2;
 
-struct Job {
+struct Rendering {
     std::vector<std::string> names; // the last one is the picture's where there is no folder
     std::string folder;
     bool compare = false;
@@ -168,7 +168,7 @@ std::vector<std::string> pageFiles(const std::string &input)
 }
 
 // All pages, as NAME.png, and an index page of the pictures. A page that fails stops none of the others.
-int renderAll(const Job &job)
+int renderAll(const Rendering &job)
 {
     const std::filesystem::path folder = job.folder;
     std::error_code error;
@@ -197,13 +197,13 @@ int renderAll(const Job &job)
 }
 
 // Whether as many names were given as the way of working takes.
-bool isComplete(const Job &job)
+bool isComplete(const Rendering &job)
 {
     constexpr std::size_t one = 2, two = 3;
     return !job.folder.empty() ? !job.compare : job.names.size() == (job.compare ? two : one);
 }
 
-int work(const Job &job)
+int work(const Rendering &job)
 {
     if (!job.folder.empty())
         return renderAll(job);
@@ -224,7 +224,7 @@ int main(int argc, char **argv)
 {
     takeFileErrorsAsErrors();
     holdStandardStreams();
-    Job job;
+    Rendering job;
     CLI::App usage("Renders page files as PNG pictures.", "odsrender");
     usage.set_version_flag("--version", CORVANTA_VERSION);
     usage.footer("Ways:\n  odsrender FILE.ods OUT.png                draw a page\n"
@@ -253,6 +253,6 @@ int main(int argc, char **argv)
     qInstallMessageHandler(tellOnlyFailures);
     QGuiApplication application(argc, argv);
     registerFontSubstitutions();
-    installPictureLoader();
+    installPictureLoader(Decoding::AtOnce);
     return afterPrinting("odsrender", work(job));
 }

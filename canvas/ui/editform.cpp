@@ -65,6 +65,7 @@ Editform::Editform()
     listenToDocument();
     listenToCanvas();
     listenToRunning();
+    listenToPictures();
     for (std::int16_t i = 0; i < objectCount(page()); ++i)
         createVisual(i);
     resize(newPageWidth, newPageHeight + frameHeight());

@@ -63,6 +63,8 @@ private:
     void listenToDocument();
     void listenToCanvas();
     void listenToRunning();
+    void listenToPictures();
+    void paintNow();
     void createVisual(std::int16_t index);
     void objectChanged(std::int16_t index);
     void pageRestored(const Page &before);

@@ -8,9 +8,11 @@
 #include "canvas/ui/editform.h"
 #include "document/events.h"
 #include "document/file_state.h"
+#include "platform/qt/qt_pictures.h"
 #include "platform/qt/text.h"
 
 #include <QContextMenuEvent>
+#include <QCoreApplication>
 #include <QScrollArea>
 #include <QScrollBar>
 
@@ -141,6 +143,27 @@ void Editform::listenToRunning()
     connections.add(playerEvents().previewEnds, [this](std::int16_t element) {
         changeLive(visuals.of(Kind::Animation, element), [](LiveState &live) { live = {}; });
     });
+}
+
+// What shows an arrived picture is painted at once, before another one may take its room. What else waits to be painted
+// comes first: it may ask for its pictures again.
+void Editform::listenToPictures()
+{
+    connections.add(pictureEvents().arrived, [this](const Picture &picture) {
+        if (!pictureCache())
+            return;
+        paintNow();
+        visuals.updateShowing(picture);
+        pictureCache()->paintsArrival(true);
+        paintNow();
+        pictureCache()->paintsArrival(false);
+    });
+}
+
+void Editform::paintNow()
+{
+    QEvent request(QEvent::UpdateRequest);
+    QCoreApplication::sendEvent(window(), &request);
 }
 
 void Editform::createVisual(std::int16_t index)

@@ -102,8 +102,13 @@ void paintPlaced(QPainter &painter, Page &p, std::int16_t index)
 void paintPageBackground(QPainter &painter, const Page &p, const QRect &rect)
 {
     painter.fillRect(rect, toQColor(p.bkgcol));
-    if (const QImage *image = imageOf(p.background))
-        painter.drawImage(rect.topLeft(), *image, rect);
+    if (!p.background)
+        return;
+    const QRect shown = QRect(0, 0, p.background->width, p.background->height) & QRect(0, 0, p.bkgwd, p.bkght);
+    painter.save();
+    painter.setClipRect(rect, Qt::IntersectClip);
+    drawPicture(painter, shown, p.background, shown);
+    painter.restore();
 }
 
 std::vector<std::int16_t> drawnOnPage(const Page &p)

@@ -49,6 +49,14 @@ void paintPictureSign(QPainter &painter, const QRect &rect)
 
 } // namespace
 
+void paintMissingPicture(QPainter &painter, const QRect &rect)
+{
+    painter.save();
+    painter.fillRect(rect, QColor(0xE4, 0xE7, 0xEC));
+    paintPictureSign(painter, rect);
+    painter.restore();
+}
+
 void paintHotSpot(QPainter &painter, const ObjectRecord &record, const QRect &rect)
 {
     const QColor blue(0x20, 0x50, 0xB0);
@@ -65,13 +73,12 @@ void paintHotSpot(QPainter &painter, const ObjectRecord &record, const QRect &re
 
 void paintImage(QPainter &painter, const PicturePtr &picture, const QRect &rect)
 {
-    if (const QImage *image = imageOf(picture)) {
-        painter.setRenderHint(QPainter::SmoothPixmapTransform, image->size() != rect.size());
-        painter.drawImage(rect, *image);
+    const QSize size = picture ? QSize(picture->width, picture->height) : QSize();
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, size != rect.size());
+    if (drawPicture(painter, rect, picture, QRect(QPoint(), size)) == Drawn::Whole)
         return;
-    }
-    painter.fillRect(rect, QColor(0xE4, 0xE7, 0xEC));
-    paintPictureSign(painter, rect);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
+    paintMissingPicture(painter, rect);
     paintFrame(painter, rect, Qt::black);
 }
 

@@ -40,23 +40,45 @@ int startOf(const QRect &inner, int width, int horizontal)
     return inner.left() + (horizontal == Qt::AlignLeft ? 0 : horizontal == Qt::AlignRight ? left : left / 2);
 }
 
+// As much of a picture as its button shows; while it is being decoded, the ground that it will cover. False when there
+// will be no picture.
+bool paintPicture(QPainter &painter, const QRect &inner, QPoint corner, const PicturePtr &picture)
+{
+    const QRect seen = QRect(corner, QSize(picture->width, picture->height)) & inner;
+    if (seen.isEmpty())
+        return true;
+    const Drawn drawn = drawPicture(painter, seen, picture, seen.translated(-corner));
+    if (drawn == Drawn::Later)
+        paintMissingPicture(painter, seen);
+    return drawn != Drawn::Never;
+}
+
 // Picture and caption as one block, placed by the alignment: the picture on top where the height allows it, else at the
 // left.
-void paintPictureAndCaption(QPainter &painter, const QRect &inner, const QImage &image, const QString &caption,
-                            int horizontal)
+bool paintPictureAndCaption(QPainter &painter, const QRect &inner, const QRect &content, const PicturePtr &picture,
+                            const QString &caption, int horizontal)
 {
-    const QRect text = painter.boundingRect(inner, Qt::AlignCenter | captionFlags, caption);
-    const bool above = image.height() + gap + text.height() <= inner.height();
-    const int blockWidth = above ? image.width() : std::min(inner.width(), image.width() + gap + text.width());
-    const int blockHeight = above ? image.height() + gap + text.height() : image.height();
-    const QPoint corner(startOf(inner, blockWidth, horizontal), inner.top() + (inner.height() - blockHeight) / 2);
-    painter.drawImage(corner, image);
+    const QRect text = painter.boundingRect(content, Qt::AlignCenter | captionFlags, caption);
+    const int width = picture->width, height = picture->height;
+    const bool above = height + gap + text.height() <= content.height();
+    const int blockWidth = above ? width : std::min(content.width(), width + gap + text.width());
+    const int blockHeight = above ? height + gap + text.height() : height;
+    const QPoint corner(startOf(content, blockWidth, horizontal), content.top() + (content.height() - blockHeight) / 2);
+    if (!paintPicture(painter, inner, corner, picture))
+        return false;
     if (above)
-        paintCaption(painter, QRect(inner.left(), corner.y() + image.height() + gap, inner.width(), text.height()),
-                     caption, horizontal);
+        paintCaption(painter, QRect(content.left(), corner.y() + height + gap, content.width(), text.height()), caption,
+                     horizontal);
     else
-        paintCaption(painter, inner.adjusted(corner.x() - inner.left() + image.width() + gap, 0, 0, 0), caption,
+        paintCaption(painter, content.adjusted(corner.x() - content.left() + width + gap, 0, 0, 0), caption,
                      Qt::AlignLeft);
+    return true;
+}
+
+bool paintAlone(QPainter &painter, const QRect &inner, const PicturePtr &picture)
+{
+    const QPoint middle((inner.width() - picture->width) / 2, (inner.height() - picture->height) / 2);
+    return paintPicture(painter, inner, inner.topLeft() + middle, picture);
 }
 
 } // namespace
@@ -73,14 +95,11 @@ void paintButton(QPainter &painter, const Element &button, std::int16_t alignmen
     const QString caption = shownText(button.Caption);
     const int horizontal = alignmentFlag(alignment);
     const QRect content = inner.adjusted(margin, 0, -margin, 0);
-    const QImage *image = imageOf(button.picture);
-    if (image && caption.isEmpty())
-        painter.drawImage(inner.topLeft() +
-                              QPoint((inner.width() - image->width()) / 2, (inner.height() - image->height()) / 2),
-                          *image);
-    else if (image)
-        paintPictureAndCaption(painter, content, *image, caption, horizontal);
-    else
+    const PicturePtr &picture = button.picture;
+    const bool pictured =
+        picture && (caption.isEmpty() ? paintAlone(painter, inner, picture)
+                                      : paintPictureAndCaption(painter, inner, content, picture, caption, horizontal));
+    if (!pictured)
         paintCaption(painter, content, caption, horizontal);
 }
 

@@ -29,6 +29,8 @@ void paintGrid(QPainter &painter, const Element &grid, const std::vector<GridCol
 void paintTicker(QPainter &painter, const Element &ticker, int textOffset, const QRect &rect);
 void paintAnimation(QPainter &painter, const Page &p, std::int16_t element, const LiveState &live, const QRect &rect);
 void paintHotSpot(QPainter &painter, const ObjectRecord &record, const QRect &rect);
+// The ground of a picture that is not there, or not yet.
+void paintMissingPicture(QPainter &painter, const QRect &rect);
 void paintImage(QPainter &painter, const PicturePtr &picture, const QRect &rect);
 void paintImageDb(QPainter &painter, const QRect &rect);
 

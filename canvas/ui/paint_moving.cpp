@@ -66,9 +66,10 @@ const Frame *shownFrame(const Page &p, std::int16_t element, const LiveState &li
 void paintAnimation(QPainter &painter, const Page &p, std::int16_t element, const LiveState &live, const QRect &rect)
 {
     const Frame *frame = shownFrame(p, element, live);
-    if (const QImage *image = frame ? imageOf(frame->picture) : nullptr)
-        painter.drawImage(rect.topLeft(), *image);
-    else if (live.bordered)
+    const PicturePtr picture = frame ? frame->picture : nullptr;
+    const QSize size = picture ? QSize(picture->width, picture->height).boundedTo(rect.size()) : QSize();
+    const QRect part(QPoint(), size);
+    if (drawPicture(painter, QRect(rect.topLeft(), size), picture, part) != Drawn::Whole && live.bordered)
         paintFilm(painter, rect, frameNumbers(p, element).size());
     if (live.bordered && p.ani[static_cast<std::size_t>(element)].BorderStyle == 1)
         paintFrame(painter, rect, QColor(0x40, 0x40, 0x40));

@@ -2,6 +2,7 @@
 
 #include "document/page_file.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace corvanta {
@@ -105,6 +106,25 @@ void Visuals::refreshAll()
     for (const auto &[key, visual] : visuals)
         visual->refresh();
     pageArea.update();
+}
+
+void Visuals::updateShowing(const Picture &picture)
+{
+    const Page &p = page();
+    const auto shows = [&](const PicturePtr &shown) { return shown.get() == &picture; };
+    const bool inFrames = std::ranges::any_of(p.frames, shows, &Frame::picture);
+    if (shows(p.background))
+        pageArea.update();
+    for (std::int16_t i = 0; i < objectCount(p); ++i) {
+        const ObjectRecord &o = p.objects[static_cast<std::size_t>(i)];
+        const auto n = static_cast<std::size_t>(p.ctlindex[static_cast<std::size_t>(i)]);
+        const Element *element = elementOf(p, i);
+        Visual *visual = of(i);
+        if (visual && element && (shows(element->picture) || (inFrames && kindOf(o.kind) == Kind::Animation)))
+            visual->update();
+        else if (kindOf(o.kind) == Kind::Image && shows(p.imgpictures.at(n).picture))
+            updateDrawn(p, i);
+    }
 }
 
 void Visuals::raise(std::int16_t index)

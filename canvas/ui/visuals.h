@@ -21,6 +21,7 @@ public:
     void remove(std::int16_t index);
     void refresh(std::int16_t index);
     void refreshAll();
+    void updateShowing(const Picture &picture); // those that show it, and the page area where it does
     void raise(std::int16_t index);
     void restack();                // in table order
     void showBindings(bool shown); // those of later objects, too

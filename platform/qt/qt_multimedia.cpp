@@ -2,13 +2,13 @@
 
 #include "platform/multimedia.h"
 #include "platform/paths.h"
+#include "platform/sound_header.h"
 #include "platform/text.h"
 
 #include <QCoreApplication>
 #include <QLibrary>
 #include <QString>
 
-#include <fstream>
 #include <string_view>
 
 namespace corvanta {
@@ -19,14 +19,18 @@ namespace {
 constexpr int unrecognisedCommand = 261;
 constexpr int cannotLoadDriver = 266;
 constexpr int fileNotFound = 275;
+constexpr int invalidFile = 296;
 
 bool startsWith(std::string_view text, std::string_view start) { return sameText(text.substr(0, start.size()), start); }
 
 int play(const std::string &path, const SoundModules &modules)
 {
     const std::filesystem::path host = hostPath(path);
-    if (!fileExists(path) || !std::ifstream(host))
+    const OpenMedia file(path);
+    if (!file)
         return fileNotFound;
+    if (!soundFormat(file.source()))
+        return invalidFile;
     const SoundModule *module = modules.load();
     if (!module)
         return cannotLoadDriver;

@@ -1,20 +1,36 @@
 #pragma once
 
-#include "platform/pictures.h"
+#include "platform/picture_cache.h"
 
 #include <QImage>
+#include <QRect>
+
+class QPainter;
 
 namespace corvanta {
 
-struct QtPicture : Picture {
+struct QtPixels : Pixels {
     QImage image;
 };
 
-// The picture's image; nullptr for no picture, or one that another toolkit has loaded.
-const QImage *imageOf(const PicturePtr &picture);
+// Decodes the image formats of the toolkit, by content and not by the file's name. A file that ends within its pixels
+// gives what there is. For any thread.
+PixelsPtr decodePicture(const PictureFile &file, const PictureView &view);
 
-// Makes pictureLoader() load the image formats of the toolkit, by content and not by the file's name. A file that
-// ends within its pixels gives what there is.
-void installPictureLoader();
+// Makes pictureLoader() load the pictures of a new cache, in the place of the one before.
+void installPictureLoader(Decoding how = Decoding::InBackground, PictureCache::Decoder decoder = decodePicture);
+// No loader any more: nothing is loaded or shown.
+void removePictureLoader();
+// The one that was installed; nullptr without one.
+PictureCache *pictureCache();
+
+enum class Drawn {
+    Whole, // the picture
+    Later, // nothing yet: its pixels are being decoded, and pictureEvents() tells when they are there
+    Never  // nothing: there is no picture, or none that can be decoded
+};
+
+// Draws a part of a picture into a rectangle, scaled where their sizes differ.
+Drawn drawPicture(QPainter &painter, const QRect &target, const PicturePtr &picture, const QRect &part);
 
 } // namespace corvanta

@@ -1,5 +1,7 @@
 #include "platform/sound/sound_module.h"
 
+#include "platform/sound_header.h"
+
 #include <SDL.h>
 #include <SDL_mixer.h>
 
@@ -8,9 +10,10 @@
 #include <chrono>
 #include <condition_variable>
 #include <deque>
-#include <filesystem>
+#include <fstream>
 #include <mutex>
 #include <string>
+#include <string_view>
 #include <thread>
 #include <vector>
 
@@ -21,7 +24,7 @@ namespace corvanta {
 namespace {
 
 constexpr std::size_t mostWaiting = 16;
-constexpr std::uintmax_t mostEffectBytes = 1 << 20; // longer files are streamed
+constexpr std::size_t mostEffectBytes = 1 << 20; // longer files are streamed
 constexpr int channelCount = 16;
 
 struct Command {
@@ -48,6 +51,7 @@ struct Player {
     bool open = false;
     Mix_Music *music = nullptr;
     std::vector<Mix_Chunk *> effects = std::vector<Mix_Chunk *>(channelCount); // by channel
+    int bytesOfSecond = 0;                                                     // as the device takes them
 };
 
 // NOLINTNEXTLINE(cert-dcl50-cpp): as the library calls it
@@ -87,6 +91,10 @@ bool openDevice(Player &player)
         return false;
     }
     Mix_AllocateChannels(channelCount);
+    int rate = 0, channels = 0;
+    Uint16 format = 0;
+    Mix_QuerySpec(&rate, &format, &channels);
+    player.bytesOfSecond = rate * channels * SDL_AUDIO_BITSIZE(format) / 8;
     return player.open = true;
 }
 
@@ -121,14 +129,40 @@ void closeDevice(Player &player)
     player.open = false;
 }
 
-// Short sounds are mixed.
+std::uint64_t effectBytes(const Player &player)
+{
+    std::uint64_t bytes = 0;
+    for (const Mix_Chunk *effect : player.effects)
+        bytes += effect ? effect->alen : 0;
+    return bytes;
+}
+
+// Whether a sound finds room among those that play, however long its samples turn out to be.
+bool fits(const Player &player, std::string_view content)
+{
+    const auto longest = longestSound(content);
+    const auto rate = static_cast<std::uint64_t>(player.bytesOfSecond);
+    return longest && longest->frames < mostSoundBytes &&
+           longest->frames * rate / longest->rate + effectBytes(player) <= mostSoundBytes;
+}
+
+std::string shortFile(const std::string &path)
+{
+    std::string content(mostEffectBytes + 1, '\0');
+    std::ifstream in(path, std::ios::binary);
+    in.read(content.data(), static_cast<std::streamsize>(content.size()));
+    content.resize(static_cast<std::size_t>(in.gcount()));
+    return content.size() > mostEffectBytes ? std::string() : content;
+}
+
+// Short sounds are mixed, as far as all of them together are not too large.
 bool playEffect(Player &player, const std::string &path)
 {
-    std::error_code error;
-    if (std::filesystem::file_size(path, error) > mostEffectBytes || error)
-        return false;
+    const std::string content = shortFile(path);
     freeEffects(player, false);
-    Mix_Chunk *effect = Mix_LoadWAV(path.c_str());
+    if (!fits(player, content))
+        return false;
+    Mix_Chunk *effect = Mix_LoadWAV_RW(SDL_RWFromConstMem(content.data(), static_cast<int>(content.size())), 1);
     if (!effect)
         return false;
     const int channel = Mix_PlayChannel(-1, effect, 0);

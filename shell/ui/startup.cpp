@@ -7,6 +7,7 @@
 #include "document/events.h"
 #include "document/file_state.h"
 #include "document/history.h"
+#include "document/media.h"
 #include "document/page_file.h"
 #include "document/recovery.h"
 #include "platform/asking.h"
@@ -111,6 +112,7 @@ void EditorWindows::connectCommands()
     connections.add(document.objectCount, [this] { hpsedit->refreshCommands(); });
     connections.add(document.objectRemoved, [this] { hpsedit->refreshCommands(); });
     connections.add(document.fileChanged, [this] { hpsedit->refreshFile(); });
+    connections.add(pictureEvents().unreadable, dropUnreadablePicture);
     CommandEvents &commands = commandEvents();
     connections.add(commands.closeMain, [this] { hpsedit->close(); });
     connections.add(commands.marksChanged, [this] { hpsedit->refreshCommands(); });

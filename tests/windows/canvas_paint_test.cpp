@@ -1,7 +1,7 @@
 #include "canvas/ui/paint.h"
 #include "document/encoding.h"
 #include "document/objects.h"
-#include "platform/qt/qt_pictures.h"
+#include "tests/windows/drive_pictures.h"
 
 #include <QImage>
 #include <QPainter>
@@ -36,16 +36,6 @@ struct Painted {
         return picture;
     }
 };
-
-PicturePtr filledPicture(int width, int height, QRgb colour)
-{
-    auto picture = std::make_shared<QtPicture>();
-    picture->image = QImage(width, height, QImage::Format_RGB32);
-    picture->image.fill(colour);
-    picture->width = width;
-    picture->height = height;
-    return picture;
-}
 
 // The smallest rectangle that holds all pixels that pass.
 QRect extent(const QImage &image, const auto &passes)
@@ -168,8 +158,9 @@ TEST(CanvasPaint, AnAnimationShowsItsFirstFrameOrTheOneThatPlays)
     Painted animation(Kind::Animation);
     const QRect place(0, 0, 40, 40);
     Frame first, second;
-    first.picture = filledPicture(40, 40, red);
-    second.picture = filledPicture(40, 40, 0xFF00FF00);
+    const DrivePictures pictures;
+    first.picture = pictures.load("RED.PNG", DrivePictures::filled(40, 40, red));
+    second.picture = pictures.load("GREEN.PNG", DrivePictures::filled(40, 40, 0xFF00FF00));
     storeFrames(animation.p, animation.index, {first, second});
     EXPECT_EQ(extent(animation.image(place), reddish), QRect(1, 1, 38, 38)) << "inside its border";
     const QImage playing = animation.image(place, {.frame = 2, .bordered = false});
@@ -185,7 +176,8 @@ TEST(CanvasPaint, PageDrawnObjectsLieBelowControlsAndHotSpotsShowWhatIsBelow)
     p.bkgcol = 0x00FF00;
     const auto button = createVisual(p, encodeInt16(1));
     const auto image = createVisual(p, encodeInt16(6));
-    p.imgpictures[1].picture = filledPicture(4, 4, red);
+    const DrivePictures pictures;
+    p.imgpictures[1].picture = pictures.load("RED.PNG", DrivePictures::filled(4, 4, red));
     p.objects[static_cast<std::size_t>(image)].srcfile = "x.bmp";
     const ObjectRecord &o = p.objects[static_cast<std::size_t>(button)];
     QImage picture(200, 100, QImage::Format_RGB32);

@@ -30,7 +30,7 @@ protected:
         settle();
         switchableWindows() = nullptr;
         connection() = {};
-        pictureLoader() = nullptr;
+        removePictureLoader();
     }
 
     void open()
