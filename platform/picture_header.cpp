@@ -52,6 +52,9 @@ constexpr std::string_view pngStart("\x89PNG\r\n\x1A\n\0\0\0\rIHDR", 16);
 
 Header pngHeader(std::string_view bytes)
 {
+    constexpr std::size_t length = 26;
+    if (bytes.size() < length)
+        return std::nullopt;
     const std::uint32_t depth = bigEndian(bytes, 24, 1), colours = bigEndian(bytes, 25, 1);
     const bool oneChannel = colours == 0 || colours == 3; // grey, or by a palette
     const std::uint64_t deep = depth == 16 ? 2 : 1;
@@ -93,9 +96,12 @@ Header jpegHeader(const ByteSource &source)
 {
     std::uint64_t at = 2;
     for (int i = 0; i < mostSegments; ++i) {
-        const std::string segment = source(at, 10);
+        constexpr std::size_t looked = 10;
+        const std::string segment = source(at, looked);
         const std::uint32_t marker = bigEndian(segment, 1, 1), length = bigEndian(segment, 2, 2);
         if (bigEndian(segment, 0, 1) != 0xFF || marker == 0xD9 || marker == 0xDA)
+            return std::nullopt;
+        if (isSize(marker) && segment.size() < looked)
             return std::nullopt;
         if (isSize(marker))
             return header(PictureFormat::Jpeg, bigEndian(segment, 7, 2), bigEndian(segment, 5, 2),
