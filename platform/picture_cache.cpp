@@ -30,7 +30,9 @@ PictureCache::PictureCache(Decoder decode, std::uint64_t mostKept, Decoding how)
 {
 }
 
-PictureCache::~PictureCache()
+PictureCache::~PictureCache() { cancel(); }
+
+void PictureCache::cancel()
 {
     const std::lock_guard guard(state->lock);
     state->requests.clear();

@@ -72,6 +72,8 @@ public:
 
     // Waits until all that was asked for is decoded, for so long at most. False when some is left.
     bool finish(std::chrono::milliseconds longest);
+    // What was asked for and is not begun will not be decoded.
+    void cancel();
 
     std::uint64_t keptBytes() const;
 

@@ -169,4 +169,14 @@ std::optional<SoundLength> longestSound(std::string_view content)
     return std::nullopt;
 }
 
+// The mixer converts a Wave file in one piece that may be eight times as large as the result.
+bool mayBeMixed(std::string_view content, std::uint64_t bytesOfSecond, std::uint64_t playing)
+{
+    constexpr std::uint64_t forWave = 8, forOthers = 2;
+    const auto longest = longestSound(content);
+    const std::uint64_t room = soundFormat(sourceOf(content)) == SoundFormat::Wave ? forWave : forOthers;
+    return longest && longest->frames < mostSoundBytes &&
+           room * (longest->frames * bytesOfSecond / longest->rate) + playing <= mostSoundBytes;
+}
+
 } // namespace corvanta

@@ -27,4 +27,8 @@ inline constexpr std::uint32_t lowestRate = 1000, highestRate = 384000;
 // None when that cannot be told without decoding it: such a sound is streamed.
 std::optional<SoundLength> longestSound(std::string_view content);
 
+// Whether a sound file in memory finds room among those that play, which take so many bytes, while it is decoded for a
+// device that takes so many bytes a second.
+bool mayBeMixed(std::string_view content, std::uint64_t bytesOfSecond, std::uint64_t playing);
+
 } // namespace corvanta

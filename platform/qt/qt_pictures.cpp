@@ -6,6 +6,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 
 namespace corvanta {
@@ -18,6 +19,12 @@ constexpr std::uint64_t alwaysWhole = 4 * megabyte; // what is smaller is kept a
 std::unique_ptr<PictureCache> &installed()
 {
     static std::unique_ptr<PictureCache> cache;
+    return cache;
+}
+
+PictureCache *&givenUp()
+{
+    static PictureCache *cache = nullptr;
     return cache;
 }
 
@@ -106,15 +113,24 @@ void installPictureLoader(Decoding how, PictureCache::Decoder decoder)
     }();
     static_cast<void>(endsWithTheProgram);
     QImageReader::setAllocationLimit(static_cast<int>(mostDecodedBytes / megabyte));
+    removePictureLoader();
     installed() = std::make_unique<PictureCache>(std::move(decoder), mostPictureBytes - mostDecodedBytes, how);
     pictureLoader() = [](const std::string &drivePath) { return installed()->load(drivePath); };
 }
 
 void removePictureLoader()
 {
+    constexpr std::chrono::milliseconds longest(500);
     pictureLoader() = nullptr;
+    if (!installed())
+        return;
+    installed()->cancel();
+    if (!installed()->finish(longest))
+        givenUp() = installed().release();
     installed().reset();
 }
+
+bool pictureInUse() { return givenUp() != nullptr; }
 
 PictureCache *pictureCache() { return installed().get(); }
 

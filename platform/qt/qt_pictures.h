@@ -19,8 +19,10 @@ PixelsPtr decodePicture(const PictureFile &file, const PictureView &view);
 
 // Makes pictureLoader() load the pictures of a new cache, in the place of the one before.
 void installPictureLoader(Decoding how = Decoding::InBackground, PictureCache::Decoder decoder = decodePicture);
-// No loader any more: nothing is loaded or shown.
+// No loader any more: nothing is loaded or shown. A picture that takes longer than half a second to decode is given up.
 void removePictureLoader();
+// Whether a thread is still decoding one that was given up. It uses the toolkit: nothing may be torn down then.
+bool pictureInUse();
 // The one that was installed; nullptr without one.
 PictureCache *pictureCache();
 

@@ -137,13 +137,11 @@ std::uint64_t effectBytes(const Player &player)
     return bytes;
 }
 
-// Whether a sound finds room among those that play, however long its samples turn out to be.
-bool fits(const Player &player, std::string_view content)
+// Gives back what decoding took beyond the samples.
+void shrink(Mix_Chunk &effect)
 {
-    const auto longest = longestSound(content);
-    const auto rate = static_cast<std::uint64_t>(player.bytesOfSecond);
-    return longest && longest->frames < mostSoundBytes &&
-           longest->frames * rate / longest->rate + effectBytes(player) <= mostSoundBytes;
+    if (void *samples = SDL_realloc(effect.abuf, effect.alen))
+        effect.abuf = static_cast<Uint8 *>(samples);
 }
 
 std::string shortFile(const std::string &path)
@@ -160,11 +158,12 @@ bool playEffect(Player &player, const std::string &path)
 {
     const std::string content = shortFile(path);
     freeEffects(player, false);
-    if (!fits(player, content))
+    if (!mayBeMixed(content, static_cast<std::uint64_t>(player.bytesOfSecond), effectBytes(player)))
         return false;
     Mix_Chunk *effect = Mix_LoadWAV_RW(SDL_RWFromConstMem(content.data(), static_cast<int>(content.size())), 1);
     if (!effect)
         return false;
+    shrink(*effect);
     const int channel = Mix_PlayChannel(-1, effect, 0);
     if (channel < 0)
         Mix_FreeChunk(effect);

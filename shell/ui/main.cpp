@@ -2,6 +2,7 @@
 #include "platform/codepage.h"
 #include "platform/files.h"
 #include "platform/post.h"
+#include "platform/qt/qt_pictures.h"
 #include "shell/session.h"
 #include "shell/ui/hpsedit.h"
 #include "shell/ui/missing_display.h"
@@ -86,7 +87,7 @@ int runEditor(int argc, char **argv)
 int main(int argc, char **argv)
 {
     const int code = runEditor(argc, argv);
-    if (catalogueInUse()) // a thread is in a driver: nothing that it uses may be torn down
+    if (catalogueInUse() || pictureInUse()) // a thread is in a driver or decodes: nothing that it uses may be torn down
         std::_Exit(code);
     return code;
 }

@@ -174,6 +174,15 @@ TEST_F(PictureCaches, TheLastOnesFirstAndThoseThatAreGoneNotAtAll)
     cache.shown(gone, {});
     gone = nullptr;
     EXPECT_EQ(decodes({second, third}), "132");
+    const PicturePtr fourth = picture("4"), fifth = picture("5");
+    held = true;
+    begun = false;
+    cache.shown(fourth, {});
+    while (!begun)
+        std::this_thread::yield();
+    cache.shown(fifth, {});
+    cache.cancel();
+    EXPECT_EQ(decodes({}), "4");
 }
 
 TEST_F(PictureCaches, OneRecordForEachVersionOfAFile)

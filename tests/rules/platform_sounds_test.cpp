@@ -86,5 +86,28 @@ TEST(SoundHeaders, TellWhatCanBePlayedAndHowLongItLastsAtMost)
     }
 }
 
+TEST(SoundHeaders, TellWhatFindsRoomAmongWhatPlays)
+{
+    constexpr std::uint64_t second = 176400, megabyte = 1024 * 1024;
+    const std::string samples(megabyte - 1100, '\0');
+    struct Case {
+        std::string content;
+        std::uint64_t playing;
+        bool mixed;
+    };
+    const Case cases[] = {
+        {wave(1, 2, 44100, 16) + samples, 0, true},
+        {wave(1, 2, 44100, 16) + samples, 57 * megabyte, false},
+        {wave(1, 1, 8000, 8) + samples, 0, false},
+        {wave(1, 1, 8000, 8), 63 * megabyte, true},
+        {"\xFF\xFB\x90\x64" + samples.substr(0, megabyte / 8), 0, true},
+        {"\xFF\xFB\x90\x64" + samples, 0, false},
+        {aiff("\x40\x0E\xAC\x44"s), 0, false},
+        {"hello, world", 0, false},
+    };
+    for (const Case &each : cases)
+        EXPECT_EQ(mayBeMixed(each.content, second, each.playing), each.mixed) << each.content.size() << each.playing;
+}
+
 } // namespace
 } // namespace corvanta
