@@ -16,6 +16,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     if (!length)
         return 0;
     require(length->rate >= lowestRate && length->rate <= highestRate, "a rate can be converted");
+    constexpr std::uint64_t bytesOfSecond = 4 * 48000;
+    require(!mayBeMixed(content, bytesOfSecond, 0) || length->frames * bytesOfSecond / length->rate <= mostSoundBytes,
+            "what is mixed finds room");
     constexpr std::uint64_t mostOfByte = 8192; // frames
     require(length->frames <= (size + 1) * mostOfByte, "a length is in keeping with the file");
     const std::string half(content.substr(0, size / 2));

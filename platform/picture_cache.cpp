@@ -8,7 +8,7 @@ namespace corvanta {
 
 namespace {
 
-constexpr std::uint64_t mostFileBytes = 64 * 1024 * 1024;
+constexpr std::uint64_t mostFileBytes = 64 << 20;
 
 void tellOnEventLoop(const std::weak_ptr<const PictureFile> &file)
 {

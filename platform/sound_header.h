@@ -9,7 +9,7 @@
 namespace corvanta {
 
 // What all sounds that are mixed with each other may take together, decoded for the device.
-inline constexpr std::uint64_t mostSoundBytes = 64 * 1024 * 1024;
+inline constexpr std::uint64_t mostSoundBytes = 64 << 20;
 
 enum class SoundFormat { Wave, Aiff, Midi, Ogg, Flac, Mpeg };
 

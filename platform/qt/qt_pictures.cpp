@@ -13,7 +13,7 @@ namespace corvanta {
 
 namespace {
 
-constexpr std::uint64_t megabyte = 1024 * 1024;
+constexpr std::uint64_t megabyte = 1 << 20;
 constexpr std::uint64_t alwaysWhole = 4 * megabyte; // what is smaller is kept as it is, however it is shown
 
 std::unique_ptr<PictureCache> &installed()

@@ -76,7 +76,7 @@ TEST(PictureHeaders, TellSizesAndWhatDecodingTakes)
         {bitmap(9, 2, 7), 0, 0, 0},
         {jpeg(8, 6, ""), 8, 6, 192},
         {jpeg(8, 6, tables), 8, 6, 192},
-        {jpeg(8, 6, "\xFF\xDA\0\3."), 0, 0, 0},
+        {jpeg(8, 6, "\xFF\xDA\0\3."s), 0, 0, 0},
         {jpeg(8, 6, "\xFF\xE1\0\1"s), 0, 0, 0},
         {jpeg(8, 6, std::string(5000, '\xFF')), 0, 0, 0},
         {icon(16, number(40, 4, false)), 16, 16, 1024},

@@ -88,7 +88,7 @@ TEST(SoundHeaders, TellWhatCanBePlayedAndHowLongItLastsAtMost)
 
 TEST(SoundHeaders, TellWhatFindsRoomAmongWhatPlays)
 {
-    constexpr std::uint64_t second = 176400, megabyte = 1024 * 1024;
+    constexpr std::uint64_t second = 176400, megabyte = 1 << 20;
     const std::string samples(megabyte - 1100, '\0');
     struct Case {
         std::string content;
