@@ -51,17 +51,17 @@ TEST(SoundHeaders, TellWhatCanBePlayedAndHowLongItLastsAtMost)
     const std::string vorbis = oggPage(2, "\x1E", start), opus = oggPage(2, "\x08", "OpusHead");
     const std::string slow = oggPage(2, "\x1E", head + little(1, 4) + std::string(12, '\0') + "\xB8\1");
     const Case cases[] = {
-        {"stereo", wave(1, 2, 44100, 16), 1044 / 4 + 1, 44100},
-        {"two samples in a byte", wave(0x11, 1, 8000, 4), 1044 * 2 + 1, 8000},
-        {"behind an odd chunk", wave(1, 1, 8000, 8, "LIST\3\0\0\0abc\0"s), 1056 + 1, 8000},
+        {"stereo", wave(1, 2, 44100, 16), 262, 44100},
+        {"two samples in a byte", wave(0x11, 1, 8000, 4), 2089, 8000},
+        {"behind an odd chunk", wave(1, 1, 8000, 8, "LIST\3\0\0\0abc\0"s), 1057, 8000},
         {"one frame a second", wave(1, 2, 1, 16), 0, 0},
         {"no channel", wave(1, 0, 44100, 16), 0, 0},
         {"many channels", wave(1, 60000, 44100, 16), 0, 0},
         {"odd bits", wave(1, 1, 44100, 3), 0, 0},
         {"unknown encoding", wave(0x55, 1, 44100, 16), 0, 0},
         {"two forms", wave(1, 1, 44100, 16, wave(1, 1, 44100, 8).substr(12, 24)), 0, 0},
-        {"vorbis", vorbis + oggPage(0, "\xFF\1\2"s, std::string(258, '.')), 3 * 2048, 44100},
-        {"opus", opus + oggPage(4, "\0\0\0"s, ""), 4 * 5760, 48000},
+        {"vorbis", vorbis + oggPage(0, "\xFF\1\2"s, std::string(258, '.')), 6144, 44100},
+        {"opus", opus + oggPage(4, "\0\0\0"s, ""), 23040, 48000},
         {"slow vorbis", slow, 0, 0},
         {"two streams", vorbis + slow, streamed, 0},
         {"something between pages", vorbis + "...." + oggPage(4, "\1", "."), streamed, 0},
